@@ -1,0 +1,80 @@
+// The three inverse functions: each finds the temperature at which a rising function of
+// temperature reaches a target, by a band search and the secant iteration of bands.h.
+
+#include <cmath>
+
+#include "acedads.h"
+#include "psychro/airstate/airstate.h"
+#include "psychro/airstate/bands.h"
+
+using airstate::kFreezingEdge_K;
+using airstate::kTemperatureBands;
+using airstate::Phase;
+using airstate::StartingPair;
+
+namespace {
+
+double LnSaturationPressure(Phase phase, double T_K) {
+    return std::log(phase == Phase::Ice ? SaturationPressureIce(T_K)
+                                        : SaturationPressureWater(T_K));
+}
+
+double Psychrometer(Phase phase, double T_K, double P_Pa) {
+    return phase == Phase::Ice ? PsychrometerFunctionIce(T_K, P_Pa)
+                               : PsychrometerFunctionWater(T_K, P_Pa);
+}
+
+double EnthalpyAtHumidity(Phase phase, double T_K, double P_Pa, double fy_percent) {
+    return phase == Phase::Ice ? EnthalpyAtHumidityIce(T_K, P_Pa, fy_percent)
+                               : EnthalpyAtHumidityWater(T_K, P_Pa, fy_percent);
+}
+
+}  // namespace
+
+double DewPointFromPressure(double p_Pa) {
+    const double target = std::log(p_Pa);
+    for (std::size_t k = 0; k < kTemperatureBands.size(); ++k) {
+        const auto& band = kTemperatureBands[k];
+        // The lowest water band starts where the ice bands end, on the ice curve, so that no
+        // pressure between the two curves at 0 °C falls between bands.
+        const Phase lowerPhase = band.lowerEdge_K == kFreezingEdge_K ? Phase::Ice : band.phase;
+        const double fLower = LnSaturationPressure(lowerPhase, band.lowerEdge_K);
+        const double fUpper = LnSaturationPressure(band.phase, band.upperEdge_K);
+        if (airstate::BandHolds(fLower, fUpper, target, k)) {
+            const Phase phase = band.phase;
+            return airstate::SolveBySecant(
+                [phase](double T_K) { return LnSaturationPressure(phase, T_K); }, target,
+                airstate::StartOf(band));
+        }
+    }
+    acedAlert(L"求得温度范围不对.");
+    return kTemperatureOutOfRange_C;
+}
+
+double WetBulbTemperature(double t_C, double pq_Pa, double P_Pa) {
+    const double target = pq_Pa + 0.000667 * P_Pa * t_C;
+    StartingPair start;
+    for (std::size_t k = 0; k < kTemperatureBands.size(); ++k) {
+        const auto& band = kTemperatureBands[k];
+        const double fLower = Psychrometer(band.phase, band.lowerEdge_K, P_Pa);
+        const double fUpper = Psychrometer(band.phase, band.upperEdge_K, P_Pa);
+        if (airstate::BandHolds(fLower, fUpper, target, k)) start = airstate::StartOf(band);
+    }
+    const Phase phase = start.phase;
+    return airstate::SolveBySecant(
+        [phase, P_Pa](double T_K) { return Psychrometer(phase, T_K, P_Pa); }, target, start);
+}
+
+double TemperatureFromEnthalpy(double i_kJkg, double P_Pa, double fy_percent) {
+    StartingPair start;
+    for (std::size_t k = 0; k < kTemperatureBands.size(); ++k) {
+        const auto& band = kTemperatureBands[k];
+        const double fLower = EnthalpyAtHumidity(band.phase, band.lowerEdge_K, P_Pa, fy_percent);
+        const double fUpper = EnthalpyAtHumidity(band.phase, band.upperEdge_K, P_Pa, fy_percent);
+        if (airstate::BandHolds(fLower, fUpper, i_kJkg, k)) start = airstate::StartOf(band);
+    }
+    // The water form is iterated even when an ice band was chosen: the program's rule.
+    return airstate::SolveBySecant(
+        [P_Pa, fy_percent](double T_K) { return EnthalpyAtHumidityWater(T_K, P_Pa, fy_percent); },
+        i_kJkg, start);
+}
