@@ -61,6 +61,16 @@ inline StartingPair StartOf(const TemperatureBand& band) {
     return {band.firstStart_C, band.secondStart_C, band.phase};
 }
 
+// Saturation pressures, Pa, at a band's edges on the band's own curve.
+struct BandEdgePressures {
+    double lower_Pa;
+    double upper_Pa;
+};
+
+// The edge pressures of every band, in table order. They depend on constants only, so they are
+// computed once, with the same functions as any other saturation pressure.
+const std::array<BandEdgePressures, kTemperatureBands.size()>& BandEdgeSaturationPressures();
+
 // Secant iteration for f(T) = target from the starting pair, until the last step is at most
 // 1e-5 K. Deliberately without a step limit: every band starts within 20 K of its root on a
 // smooth rising curve. Returns the root in °C.
@@ -69,14 +79,16 @@ double SolveBySecant(Function&& f, double target, const StartingPair& start) {
     double T0 = start.first_C + kCelsiusToKelvin;
     double T1 = start.second_C + kCelsiusToKelvin;
     double step = T1 - T0;
-    while (std::fabs(step) > 1e-5) {
+    if (!(std::fabs(step) > 1e-5)) return T1 - kCelsiusToKelvin;
+    double f0 = f(T0);
+    do {
         const double f1 = f(T1);
-        const double f0 = f(T0);
         const double T2 = T1 - (f1 - target) * (T1 - T0) / (f1 - f0);
         T0 = T1;
+        f0 = f1;  // f at the new T0, carried over rather than evaluated again
         T1 = T2;
         step = T2 - T0;
-    }
+    } while (std::fabs(step) > 1e-5);
     return T1 - kCelsiusToKelvin;
 }
 

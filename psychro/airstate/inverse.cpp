@@ -1,15 +1,20 @@
 // The three inverse functions: each finds the temperature at which a rising function of
-// temperature reaches a target, by a band search and the secant iteration of bands.h.
+// temperature reaches a target, by a band search and the secant iteration of bands.h. The
+// band edges are evaluated from saturation pressures computed once (BandEdgeSaturationPressures).
 
 #include <cmath>
 
 #include "acedads.h"
 #include "psychro/airstate/airstate.h"
 #include "psychro/airstate/bands.h"
+#include "psychro/airstate/saturation_terms.h"
 
+using airstate::BandEdgeSaturationPressures;
+using airstate::EnthalpyFromSaturation;
 using airstate::kFreezingEdge_K;
 using airstate::kTemperatureBands;
 using airstate::Phase;
+using airstate::PsychrometerFromSaturation;
 using airstate::StartingPair;
 
 namespace {
@@ -24,27 +29,40 @@ double Psychrometer(Phase phase, double T_K, double P_Pa) {
                                : PsychrometerFunctionWater(T_K, P_Pa);
 }
 
-double EnthalpyAtHumidity(Phase phase, double T_K, double P_Pa, double fy_percent) {
-    return phase == Phase::Ice ? EnthalpyAtHumidityIce(T_K, P_Pa, fy_percent)
-                               : EnthalpyAtHumidityWater(T_K, P_Pa, fy_percent);
+struct LnEdges {
+    double lower;
+    double upper;
+};
+
+// ln of the saturation pressure at each band's edges, as the dew-point search compares them.
+// The lowest water band starts where the ice bands end, on the ice curve, so that no pressure
+// between the two curves at 0 °C falls between bands.
+const std::array<LnEdges, kTemperatureBands.size()>& DewPointBandEdges() {
+    static const auto edges = [] {
+        std::array<LnEdges, kTemperatureBands.size()> ln{};
+        for (std::size_t k = 0; k < kTemperatureBands.size(); ++k) {
+            const auto& band = kTemperatureBands[k];
+            const Phase lowerPhase =
+                band.lowerEdge_K == kFreezingEdge_K ? Phase::Ice : band.phase;
+            ln[k] = {LnSaturationPressure(lowerPhase, band.lowerEdge_K),
+                     LnSaturationPressure(band.phase, band.upperEdge_K)};
+        }
+        return ln;
+    }();
+    return edges;
 }
 
 }  // namespace
 
 double DewPointFromPressure(double p_Pa) {
     const double target = std::log(p_Pa);
+    const auto& edges = DewPointBandEdges();
     for (std::size_t k = 0; k < kTemperatureBands.size(); ++k) {
-        const auto& band = kTemperatureBands[k];
-        // The lowest water band starts where the ice bands end, on the ice curve, so that no
-        // pressure between the two curves at 0 °C falls between bands.
-        const Phase lowerPhase = band.lowerEdge_K == kFreezingEdge_K ? Phase::Ice : band.phase;
-        const double fLower = LnSaturationPressure(lowerPhase, band.lowerEdge_K);
-        const double fUpper = LnSaturationPressure(band.phase, band.upperEdge_K);
-        if (airstate::BandHolds(fLower, fUpper, target, k)) {
-            const Phase phase = band.phase;
+        if (airstate::BandHolds(edges[k].lower, edges[k].upper, target, k)) {
+            const Phase phase = kTemperatureBands[k].phase;
             return airstate::SolveBySecant(
                 [phase](double T_K) { return LnSaturationPressure(phase, T_K); }, target,
-                airstate::StartOf(band));
+                airstate::StartOf(kTemperatureBands[k]));
         }
     }
     acedAlert(L"求得温度范围不对.");
@@ -53,11 +71,12 @@ double DewPointFromPressure(double p_Pa) {
 
 double WetBulbTemperature(double t_C, double pq_Pa, double P_Pa) {
     const double target = pq_Pa + 0.000667 * P_Pa * t_C;
+    const auto& edges = BandEdgeSaturationPressures();
     StartingPair start;
     for (std::size_t k = 0; k < kTemperatureBands.size(); ++k) {
         const auto& band = kTemperatureBands[k];
-        const double fLower = Psychrometer(band.phase, band.lowerEdge_K, P_Pa);
-        const double fUpper = Psychrometer(band.phase, band.upperEdge_K, P_Pa);
+        const double fLower = PsychrometerFromSaturation(edges[k].lower_Pa, band.lowerEdge_K, P_Pa);
+        const double fUpper = PsychrometerFromSaturation(edges[k].upper_Pa, band.upperEdge_K, P_Pa);
         if (airstate::BandHolds(fLower, fUpper, target, k)) start = airstate::StartOf(band);
     }
     const Phase phase = start.phase;
@@ -66,11 +85,14 @@ double WetBulbTemperature(double t_C, double pq_Pa, double P_Pa) {
 }
 
 double TemperatureFromEnthalpy(double i_kJkg, double P_Pa, double fy_percent) {
+    const auto& edges = BandEdgeSaturationPressures();
     StartingPair start;
     for (std::size_t k = 0; k < kTemperatureBands.size(); ++k) {
         const auto& band = kTemperatureBands[k];
-        const double fLower = EnthalpyAtHumidity(band.phase, band.lowerEdge_K, P_Pa, fy_percent);
-        const double fUpper = EnthalpyAtHumidity(band.phase, band.upperEdge_K, P_Pa, fy_percent);
+        const double fLower =
+            EnthalpyFromSaturation(edges[k].lower_Pa, band.lowerEdge_K, P_Pa, fy_percent);
+        const double fUpper =
+            EnthalpyFromSaturation(edges[k].upper_Pa, band.upperEdge_K, P_Pa, fy_percent);
         if (airstate::BandHolds(fLower, fUpper, i_kJkg, k)) start = airstate::StartOf(band);
     }
     // The water form is iterated even when an ice band was chosen: the program's rule.
