@@ -1,0 +1,73 @@
+#include "frame/function_table.h"
+
+#include "frame/handlers.h"
+
+namespace vrn2 {
+
+const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
+    {L"", nullptr},
+    {L"_getdir", notAvailable<1>},  // 1
+    {L"_getfile", notAvailable<2>},  // 2
+    {L"_wjlb", notAvailable<3>},  // 3
+    {L"_act_dir", notAvailable<4>},  // 4
+    {L"_act_file", notAvailable<5>},  // 5
+    {L"_mw_free", notAvailable<6>},  // 6
+    {L"_hf_dir", notAvailable<7>},  // 7
+    {L"lcsj", notAvailable<8>},  // 8
+    {L"C:zfqpbj", notAvailable<9>},  // 9
+    {L"C:zfqpsr", notAvailable<10>},  // 10
+    {L"ads_kl", notAvailable<11>},  // 11
+    {L"c:gscal", notAvailable<12>},  // 12
+    {L"c:gsdelres", notAvailable<13>},  // 13
+    {L"c:gsv_res", notAvailable<14>},  // 14
+    {L"break_p", notAvailable<15>},  // 15
+    {L"t:hx_hlgzc", notAvailable<16>},  // 16
+    {L"t:hx_vlgzc", notAvailable<17>},  // 17
+    {L"c:ci_dt", notAvailable<18>},  // 18
+    {L"c:crti_dt", notAvailable<19>},  // 19
+    {L"c:i_dhlp", notAvailable<20>},  // 20
+    {L"c:crti_dtbl", notAvailable<21>},  // 21
+    {L"c:vi_dtbl", notAvailable<22>},  // 22
+    {L"c:v_res", notAvailable<23>},  // 23
+    {L"c:constp", notAvailable<24>},  // 24
+    {L"c:airmix", notAvailable<25>},  // 25
+    {L"c:retair", notAvailable<26>},  // 26
+    {L"c:q_res", notAvailable<27>},  // 27
+    {L"_kzsj1", notAvailable<28>},  // 28
+    {L"_getnalt", notAvailable<29>},  // 29
+    {L"_kzsj2", notAvailable<30>},  // 30
+    {L"_dxwj", notAvailable<31>},  // 31
+    {L"_ssst_entlst", notAvailable<32>},  // 32
+    {L"_get_ipt", notAvailable<33>},  // 33
+    {L"_get_ipt_ln_arc", notAvailable<34>},  // 34
+    {L"_get_ipt_arc_arc", notAvailable<35>},  // 35
+    {L"_Xgetsyspath", getSysPath},  // 36
+    {L"t:draw-hz", drawHanzi},  // 37
+    {L"gdsx", notAvailable<38>},  // 38
+    {L"pzjc", notAvailable<39>},  // 39
+    {L"c:sccal", notAvailable<40>},  // 40
+    {L"c:scinfo", notAvailable<41>},  // 41
+    {L"c:schlp", notAvailable<42>},  // 42
+    {L"c:scv_res", notAvailable<43>},  // 43
+    {L"c:scdelres", notAvailable<44>},  // 44
+    {L"c:zljs", notAvailable<45>},  // 45
+    {L"c:jzdy", notAvailable<46>},  // 46
+    {L"c:sssj", notAvailable<47>},  // 47
+    {L"c:bjzfd", notAvailable<48>},  // 48
+    {L"c:fdcc", notAvailable<49>},  // 49
+    {L"c:bjfd", notAvailable<50>},  // 50
+    {L"c:xgfs", notAvailable<51>},  // 51
+    {L"c:kvres", notAvailable<52>},  // 52
+    {L"work2", notAvailable<53>},  // 53
+    {L"c:fzzbdy", notAvailable<54>},  // 54
+    {L"c:fzzbsc", notAvailable<55>},  // 55
+    {L"XGetVrA", getVrnResultA},  // 56
+    {L"XGetVrB", getVrnResultB},  // 57
+    {L"_JkDlg", notAvailable<58>},  // 58
+    {L"_SetDlgFont", setDialogFont},  // 59
+    {L"_FindMC", notAvailable<60>},  // 60
+    {L"_Xscjx", viewCorners},  // 61
+    {L"c:UnitConv", notAvailable<62>},  // 62
+};
+
+}  // namespace vrn2

@@ -1,0 +1,322 @@
+#include "host/runtime/convert.h"
+
+#include <climits>
+
+#include "acutads.h"
+#include "adscodes.h"
+#include "host/runtime/groupcodes.h"
+#include "host/runtime/resbuf.h"
+
+namespace host {
+using namespace lisp;
+
+namespace {
+
+class ChainBuilder {
+public:
+    ~ChainBuilder() { acutRelRb(head_); }
+    bool add(resbuf* rb) {
+        if (!rb) {
+            ok_ = false;
+            return false;
+        }
+        *tail_ = rb;
+        tail_ = &rb->rbnext;
+        return true;
+    }
+    bool ok() const { return ok_; }
+    resbuf* release() {
+        resbuf* h = ok_ ? head_ : nullptr;
+        if (!ok_) acutRelRb(head_);
+        head_ = nullptr;
+        tail_ = &head_;
+        return h;
+    }
+
+private:
+    resbuf* head_ = nullptr;
+    resbuf** tail_ = &head_;
+    bool ok_ = true;
+};
+
+bool isPointList(const ValuePtr& v) {
+    if (!v || v->kind != Kind::Cons) return false;
+    auto items = listItems(v);
+    size_t n = 0;
+    for (ValuePtr p = v; p && p->kind == Kind::Cons; p = p->cdr) ++n;
+    ValuePtr tail = v;
+    while (tail && tail->kind == Kind::Cons) tail = tail->cdr;
+    if (!isNil(tail) || (n != 2 && n != 3)) return false;
+    for (auto& item : items)
+        if (!isNumber(item)) return false;
+    return true;
+}
+
+void addValue(ChainBuilder& out, const ValuePtr& v) {
+    if (isNil(v)) {
+        out.add(newRb(RTNIL));
+        return;
+    }
+    switch (v->kind) {
+    case Kind::Int: {
+        if (v->integer >= SHRT_MIN && v->integer <= SHRT_MAX) {
+            resbuf* rb = newRb(RTSHORT);
+            if (rb) rb->resval.rint = static_cast<short>(v->integer);
+            out.add(rb);
+        } else {
+            resbuf* rb = newRb(RTLONG);
+            if (rb) rb->resval.rlong = static_cast<long>(v->integer);
+            out.add(rb);
+        }
+        return;
+    }
+    case Kind::Real: {
+        resbuf* rb = newRb(RTREAL);
+        if (rb) rb->resval.rreal = v->real;
+        out.add(rb);
+        return;
+    }
+    case Kind::Str: out.add(newStringRb(RTSTR, v->text)); return;
+    case Kind::Sym:
+        if (v->text == L"T") out.add(newRb(RTT));
+        else out.add(newStringRb(RTSTR, v->text));
+        return;
+    case Kind::Ename:
+    case Kind::PickSet: {
+        resbuf* rb = newRb(v->kind == Kind::Ename ? RTENAME : RTPICKS);
+        if (rb) {
+            rb->resval.rlname[0] = v->name[0];
+            rb->resval.rlname[1] = v->name[1];
+        }
+        out.add(rb);
+        return;
+    }
+    case Kind::Void: out.add(newRb(RTVOID)); return;
+    case Kind::Cons: {
+        if (isPointList(v)) {
+            auto items = listItems(v);
+            resbuf* rb = newRb(items.size() == 2 ? RTPOINT : RT3DPOINT);
+            if (rb)
+                for (size_t i = 0; i < items.size(); ++i) rb->resval.rpoint[i] = toDouble(items[i]);
+            out.add(rb);
+            return;
+        }
+        out.add(newRb(RTLB));
+        ValuePtr p = v;
+        for (; p && p->kind == Kind::Cons; p = p->cdr) addValue(out, p->car);
+        if (!isNil(p)) {
+            out.add(newRb(RTDOTE));
+            addValue(out, p);
+        }
+        out.add(newRb(RTLE));
+        return;
+    }
+    default: out.add(newRb(RTNIL)); return;
+    }
+}
+
+ValuePtr groupValue(const resbuf* rb) {
+    switch (groupType(rb->restype)) {
+    case GroupType::String:
+    case GroupType::Handle: return makeStr(rb->resval.rstring ? rb->resval.rstring : L"");
+    case GroupType::Real: return makeReal(rb->resval.rreal);
+    case GroupType::Short: return makeInt(rb->resval.rint);
+    case GroupType::Long: return makeInt(rb->resval.rlong);
+    case GroupType::Name: {
+        long n[2] = {rb->resval.rlname[0], rb->resval.rlname[1]};
+        return rb->restype == RTPICKS ? makePickSet(n) : makeEname(n);
+    }
+    case GroupType::Point: {
+        bool twoD = rb->restype == RTPOINT;
+        std::vector<ValuePtr> coords{makeReal(rb->resval.rpoint[0]), makeReal(rb->resval.rpoint[1])};
+        if (!twoD) coords.push_back(makeReal(rb->resval.rpoint[2]));
+        return makeList(coords);
+    }
+    case GroupType::Binary: {
+        std::wstring hex;
+        static const wchar_t digits[] = L"0123456789ABCDEF";
+        for (int i = 0; i < rb->resval.rbinary.clen; ++i) {
+            auto b = static_cast<unsigned char>(rb->resval.rbinary.buf[i]);
+            hex += digits[b >> 4];
+            hex += digits[b & 15];
+        }
+        return makeStr(hex);
+    }
+    case GroupType::None: break;
+    }
+    return nil();
+}
+
+// Reads one element starting at rb; returns the node after it.
+const resbuf* readOne(const resbuf* rb, ValuePtr& out);
+
+const resbuf* readListBody(const resbuf* rb, ValuePtr& out) {
+    std::vector<ValuePtr> items;
+    ValuePtr tail = nil();
+    while (rb && rb->restype != RTLE) {
+        if (rb->restype == RTDOTE) {
+            rb = readOne(rb->rbnext, tail);
+            continue;
+        }
+        ValuePtr item;
+        rb = readOne(rb, item);
+        items.push_back(item);
+    }
+    ValuePtr list = tail;
+    for (auto it = items.rbegin(); it != items.rend(); ++it) list = cons(*it, list);
+    out = list;
+    return rb ? rb->rbnext : nullptr;
+}
+
+// Extended data after a -3 node: one list per application, each headed by its name.
+const resbuf* readXdata(const resbuf* rb, ValuePtr& out) {
+    std::vector<ValuePtr> apps;
+    std::vector<ValuePtr> current;
+    ValuePtr name;
+    auto flush = [&] {
+        if (name) apps.push_back(cons(name, makeList(current)));
+        current.clear();
+    };
+    for (; rb && rb->restype != RTLE; rb = rb->rbnext) {
+        if (rb->restype == 1001) {
+            flush();
+            name = makeStr(rb->resval.rstring ? rb->resval.rstring : L"");
+        } else {
+            ValuePtr item;
+            readOne(rb, item);
+            current.push_back(item);
+        }
+    }
+    flush();
+    out = cons(makeInt(-3), makeList(apps));
+    return rb;
+}
+
+const resbuf* readOne(const resbuf* rb, ValuePtr& out) {
+    if (!rb) {
+        out = nil();
+        return nullptr;
+    }
+    switch (rb->restype) {
+    case RTLB: return readListBody(rb->rbnext, out);
+    case RTNIL: out = nil(); return rb->rbnext;
+    case RTT: out = t(); return rb->rbnext;
+    case RTVOID: out = voidValue(); return rb->rbnext;
+    case RTNONE: out = voidValue(); return rb->rbnext;
+    default: break;
+    }
+    if (rb->restype >= 5000) {
+        out = groupValue(rb);
+        return rb->rbnext;
+    }
+    if (rb->restype == -3) return readXdata(rb->rbnext, out);
+    ValuePtr value = groupValue(rb);
+    if (groupType(rb->restype) == GroupType::Point) out = cons(makeInt(rb->restype), value);
+    else out = cons(makeInt(rb->restype), value);
+    return rb->rbnext;
+}
+
+bool addEntityItem(ChainBuilder& out, const ValuePtr& item) {
+    if (!item || item->kind != Kind::Cons || !item->car || item->car->kind != Kind::Int) return false;
+    int code = static_cast<int>(item->car->integer);
+    if (code == -3) {
+        out.add(newRb(-3));
+        for (auto& app : listItems(item->cdr)) {
+            if (!app || app->kind != Kind::Cons || !app->car || app->car->kind != Kind::Str) return false;
+            out.add(newStringRb(1001, app->car->text));
+            for (auto& group : listItems(app->cdr))
+                if (!addEntityItem(out, group)) return false;
+        }
+        return out.ok();
+    }
+    ValuePtr value = item->cdr;
+    resbuf* rb = newRb(code);
+    if (!rb) return false;
+    out.add(rb);
+    switch (groupType(code)) {
+    case GroupType::String:
+    case GroupType::Handle:
+        if (!value || value->kind != Kind::Str) return false;
+        rb->resval.rstring = copyString(value->text);
+        return rb->resval.rstring != nullptr;
+    case GroupType::Real:
+        if (!isNumber(value)) return false;
+        rb->resval.rreal = toDouble(value);
+        return true;
+    case GroupType::Short:
+        if (!isNumber(value)) return false;
+        rb->resval.rint = static_cast<short>(value->kind == Kind::Int ? value->integer : static_cast<long long>(value->real));
+        return true;
+    case GroupType::Long:
+        if (!isNumber(value)) return false;
+        rb->resval.rlong = static_cast<long>(value->kind == Kind::Int ? value->integer : static_cast<long long>(value->real));
+        return true;
+    case GroupType::Name:
+        if (!value || (value->kind != Kind::Ename && value->kind != Kind::PickSet)) return false;
+        rb->resval.rlname[0] = value->name[0];
+        rb->resval.rlname[1] = value->name[1];
+        return true;
+    case GroupType::Point: {
+        auto coords = listItems(value);
+        if (coords.size() < 2 || coords.size() > 3) return false;
+        for (size_t i = 0; i < coords.size(); ++i) {
+            if (!isNumber(coords[i])) return false;
+            rb->resval.rpoint[i] = toDouble(coords[i]);
+        }
+        return true;
+    }
+    case GroupType::Binary:
+    case GroupType::None: return code == -3;
+    }
+    return false;
+}
+
+}  // namespace
+
+resbuf* argsToResbuf(const std::vector<ValuePtr>& args) {
+    ChainBuilder out;
+    for (auto& a : args) addValue(out, a);
+    return out.release();
+}
+
+resbuf* valueToResbuf(const ValuePtr& value) {
+    ChainBuilder out;
+    addValue(out, value);
+    return out.release();
+}
+
+ValuePtr resbufToList(const resbuf* rb) {
+    std::vector<ValuePtr> items;
+    while (rb) {
+        ValuePtr item;
+        rb = readOne(rb, item);
+        items.push_back(item);
+    }
+    return makeList(items);
+}
+
+ValuePtr resbufToValue(const resbuf* rb) {
+    if (!rb) return nil();
+    ValuePtr first;
+    const resbuf* next = readOne(rb, first);
+    if (!next) return first;
+    return resbufToList(rb);
+}
+
+resbuf* entityListToResbuf(const ValuePtr& list, bool& ok) {
+    ChainBuilder out;
+    ok = true;
+    for (auto& item : listItems(list)) {
+        if (!addEntityItem(out, item)) {
+            ok = false;
+            return nullptr;
+        }
+    }
+    if (!out.ok()) {
+        ok = false;
+        return nullptr;
+    }
+    return out.release();
+}
+
+}  // namespace host

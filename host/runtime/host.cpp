@@ -1,0 +1,186 @@
+#include "host/runtime/host.h"
+
+#include <dlfcn.h>
+
+#include <algorithm>
+
+#include "acutads.h"
+#include "adscodes.h"
+#include "host/db/database.h"
+#include "host/runtime/convert.h"
+#include "host/runtime/output.h"
+#include "host/text.h"
+
+namespace host {
+
+Document::Document(std::wstring fileName, std::unique_ptr<db::Database> database)
+    : database_(std::move(database)) {
+    setFileName(std::move(fileName));
+}
+
+Document::~Document() = default;
+
+void Document::setFileName(std::wstring name) {
+    fileName_ = std::move(name);
+    std::filesystem::path p(fileName_);
+    std::wstring base = p.filename().wstring();
+    std::wstring folder = p.has_parent_path() ? p.parent_path().wstring() + L"/" : L"";
+    sysvars_.setString(L"DWGNAME", base.empty() ? L"Drawing1.dwg" : base, true);
+    sysvars_.setString(L"DWGPREFIX", folder, true);
+    sysvars_.setShort(L"DWGTITLED", base.empty() ? 0 : 1, true);
+}
+
+Host& Host::instance() {
+    static Host host;
+    return host;
+}
+
+Document& Host::current() { return *current_; }
+
+void Host::makeCurrent(Document& doc) {
+    current_ = &doc;
+    for (auto* r : std::vector(reactors_)) r->documentBecameCurrent(&doc);
+}
+
+Document& Host::openDocument(std::wstring fileName, std::unique_ptr<db::Database> database) {
+    if (!database) database = std::make_unique<db::Database>();
+    documents_.push_back(std::make_unique<Document>(std::move(fileName), std::move(database)));
+    Document& doc = *documents_.back();
+    for (auto* r : std::vector(reactors_)) r->documentCreated(&doc);
+    makeCurrent(doc);
+    for (auto& m : modules_) sendMessage(*m, AcRx::kLoadDwgMsg, m->handle);
+    return doc;
+}
+
+void Host::closeDocument(Document& doc) {
+    Document* previous = current_;
+    current_ = &doc;
+    for (auto& m : modules_) sendMessage(*m, AcRx::kUnloadDwgMsg, m->handle);
+    for (auto* r : std::vector(reactors_)) r->documentToBeDestroyed(&doc);
+    auto it = std::find_if(documents_.begin(), documents_.end(),
+                           [&](const auto& d) { return d.get() == &doc; });
+    current_ = previous == &doc ? nullptr : previous;
+    if (it != documents_.end()) documents_.erase(it);
+    if (!current_ && !documents_.empty()) makeCurrent(*documents_.back());
+}
+
+void Host::closeAllDocuments() {
+    while (!documents_.empty()) closeDocument(*documents_.back());
+}
+
+void Host::sendMessage(Module& module, AcRx::AppMsgCode msg, void* pkt) {
+    Module* previous = activeModule_;
+    activeModule_ = &module;
+    module.entry(msg, pkt);
+    activeModule_ = previous;
+}
+
+Module* Host::loadModule(const std::filesystem::path& path, std::wstring& error) {
+    void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!handle) {
+        const char* why = dlerror();
+        error = L"cannot load module " + path.wstring() + L": " + fromUtf8(why ? why : "");
+        return nullptr;
+    }
+    auto entry = reinterpret_cast<AcRxEntryPointFn>(dlsym(handle, "acrxEntryPoint"));
+    auto version = reinterpret_cast<AcRxGetApiVersionFn>(dlsym(handle, "acrxGetApiVersion"));
+    if (!entry || !version) {
+        error = L"not an application module (no acrxEntryPoint or acrxGetApiVersion): " + path.wstring();
+        dlclose(handle);
+        return nullptr;
+    }
+    int api = version();
+    if ((api >> 16) != ACRX_API_VERSION_MAJOR) {
+        error = L"module " + path.wstring() + L" was built for API version " +
+                std::to_wstring(api >> 16) + L", the host provides " +
+                std::to_wstring(ACRX_API_VERSION_MAJOR);
+        dlclose(handle);
+        return nullptr;
+    }
+    auto module = std::make_unique<Module>();
+    module->path = path.wstring();
+    module->name = path.stem().wstring();
+    module->handle = handle;
+    module->entry = entry;
+    module->apiVersion = api;
+    modules_.push_back(std::move(module));
+    Module& m = *modules_.back();
+    setApplicationName(m.name);
+    sendMessage(m, AcRx::kInitAppMsg, m.handle);
+    Document* previous = current_;
+    for (auto& doc : documents_) {
+        current_ = doc.get();
+        sendMessage(m, AcRx::kLoadDwgMsg, m.handle);
+    }
+    current_ = previous;
+    return &m;
+}
+
+void Host::unloadModule(Module* module) {
+    auto it = std::find_if(modules_.begin(), modules_.end(),
+                           [&](const auto& m) { return m.get() == module; });
+    if (it == modules_.end()) return;
+    Document* previous = current_;
+    for (auto& doc : documents_) {
+        current_ = doc.get();
+        sendMessage(*module, AcRx::kUnloadDwgMsg, module->handle);
+    }
+    current_ = previous;
+    sendMessage(*module, AcRx::kUnloadAppMsg, module->handle);
+    // Functions the module failed to undefine can no longer be called.
+    for (auto& doc : documents_)
+        std::erase_if(doc->functions(), [&](const auto& kv) { return kv.second.module == module; });
+    void* handle = module->handle;
+    modules_.erase(it);
+    dlclose(handle);
+}
+
+void Host::unloadAllModules() {
+    while (!modules_.empty()) unloadModule(modules_.back().get());
+}
+
+CallResult Host::invoke(std::wstring_view name, const std::vector<lisp::ValuePtr>& args) {
+    CallResult result;
+    if (!current_) return result;
+    auto& functions = current_->functions();
+    auto it = functions.find(upperAscii(name));
+    if (it == functions.end() || !it->second.module) return result;
+    RegisteredFunction fn = it->second;
+    result.defined = true;
+    Invocation inv;
+    inv.code = fn.code;
+    inv.args = argsToResbuf(args);
+    inv.result = lisp::nil();
+    invocations_.push_back(inv);
+    Module* previous = activeModule_;
+    activeModule_ = fn.module;
+    result.entryResult = fn.module->entry(AcRx::kInvkSubrMsg, fn.module->handle);
+    activeModule_ = previous;
+    result.value = invocations_.back().result;
+    acutRelRb(invocations_.back().args);
+    invocations_.pop_back();
+    return result;
+}
+
+void Host::addReactor(AcApDocManagerReactor* reactor) {
+    if (std::find(reactors_.begin(), reactors_.end(), reactor) == reactors_.end())
+        reactors_.push_back(reactor);
+}
+
+void Host::removeReactor(AcApDocManagerReactor* reactor) { std::erase(reactors_, reactor); }
+
+void Host::overrideDefunResult(std::wstring name, int result) {
+    defunOverrides_[upperAscii(name)] = result;
+}
+
+std::optional<int> Host::takeDefunOverride(std::wstring_view name) {
+    auto it = defunOverrides_.find(upperAscii(name));
+    if (it == defunOverrides_.end()) return std::nullopt;
+    int r = it->second;
+    defunOverrides_.erase(it);
+    return r;
+}
+
+db::Database& currentDatabase() { return Host::instance().current().database(); }
+
+}  // namespace host

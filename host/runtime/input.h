@@ -1,0 +1,12 @@
+// Answers to the interactive picks of the module, queued by the console or by tests.
+#pragma once
+
+#include "adsdef.h"
+
+namespace host {
+
+void queueEntityPick(const ads_name ent, const ads_point pt);
+void queuePointPick(const ads_point pt);
+void clearPicks();
+
+}  // namespace host

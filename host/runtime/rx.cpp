@@ -1,0 +1,84 @@
+// The host's system registry with its dynamic linker, and the document manager.
+#include <set>
+#include <string>
+
+#include "acdocman.h"
+#include "host/runtime/host.h"
+#include "rxregsvc.h"
+
+namespace {
+
+class DynamicLinker : public AcRxDynamicLinker {
+public:
+    bool unlockApplication(void* appId) const override {
+        locked_.erase(appId);
+        return true;
+    }
+    bool lockApplication(void* appId) const override {
+        locked_.insert(appId);
+        return true;
+    }
+    bool isApplicationLocked(const ACHAR*) const override { return false; }
+    bool registerAppMDIAware(void* appId) const override {
+        mdiAware_.insert(appId);
+        return true;
+    }
+    bool registerAppNotMDIAware(void* appId) const override {
+        mdiAware_.erase(appId);
+        return true;
+    }
+    bool isUnlocked(void* appId) const { return !locked_.count(appId); }
+    bool isMDIAware(void* appId) const { return mdiAware_.count(appId) != 0; }
+
+private:
+    mutable std::set<void*> locked_;
+    mutable std::set<void*> mdiAware_;
+};
+
+DynamicLinker& linker() {
+    static DynamicLinker l;
+    return l;
+}
+
+class SystemRegistry : public AcRxDictionary {
+public:
+    AcRxObject* at(const ACHAR* key) const override {
+        if (key && std::wstring(key) == ACRX_DYNAMIC_LINKER) return &linker();
+        return nullptr;
+    }
+};
+
+class DocManager : public AcApDocManager {
+public:
+    AcApDocument* curDocument() const override {
+        auto& h = host::Host::instance();
+        return h.hasDocument() ? &h.current() : nullptr;
+    }
+    int documentCount() const override { return static_cast<int>(host::Host::instance().documents().size()); }
+    void addReactor(AcApDocManagerReactor* reactor) override { host::Host::instance().addReactor(reactor); }
+    void removeReactor(AcApDocManagerReactor* reactor) override {
+        host::Host::instance().removeReactor(reactor);
+    }
+};
+
+}  // namespace
+
+AcRxDynamicLinker* AcRxDynamicLinker::cast(const AcRxObject* obj) {
+    return dynamic_cast<AcRxDynamicLinker*>(const_cast<AcRxObject*>(obj));
+}
+
+AcRxDictionary* acrxSysRegistry() {
+    static SystemRegistry registry;
+    return &registry;
+}
+
+AcApDocManager* acDocManagerPtr() {
+    static DocManager manager;
+    return &manager;
+}
+
+namespace host {
+// Whether a module has made itself unloadable and multi-document aware.
+bool moduleUnlocked(void* appId) { return linker().isUnlocked(appId); }
+bool moduleMDIAware(void* appId) { return linker().isMDIAware(appId); }
+}  // namespace host
