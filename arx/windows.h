@@ -71,6 +71,9 @@ typedef struct HINSTANCE__* HINSTANCE;
 #define FIXED_PITCH 1
 #define FF_MODERN (3 << 4)
 
+#define CP_ACP 0
+#define CP_UTF8 65001
+
 #define INFINITE 0xFFFFFFFF
 #define WAIT_OBJECT_0 0
 #define WAIT_TIMEOUT 258
@@ -108,6 +111,13 @@ HANDLE CreateThread(void* lpThreadAttributes, size_t dwStackSize,
 DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
 BOOL CloseHandle(HANDLE hObject);
 void Sleep(DWORD dwMilliseconds);
+
+// Code-page conversion; the host knows CP_ACP as code page 936 (GB2312/GBK).
+int WideCharToMultiByte(UINT CodePage, DWORD dwFlags, LPCWSTR lpWideCharStr, int cchWideChar,
+                        char* lpMultiByteStr, int cbMultiByte, const char* lpDefaultChar,
+                        BOOL* lpUsedDefaultChar);
+int MultiByteToWideChar(UINT CodePage, DWORD dwFlags, const char* lpMultiByteStr, int cbMultiByte,
+                        LPWSTR lpWideCharStr, int cchWideChar);
 
 #ifdef __cplusplus
 }

@@ -10,6 +10,7 @@
 #include "host/runtime/convert.h"
 #include "host/runtime/output.h"
 #include "host/text.h"
+#include "host/win/window_registry.h"
 
 namespace host {
 
@@ -132,7 +133,8 @@ void Host::unloadModule(Module* module) {
         std::erase_if(doc->functions(), [&](const auto& kv) { return kv.second.module == module; });
     void* handle = module->handle;
     modules_.erase(it);
-    dlclose(handle);
+    // A thread the module started may still run its code: then the library stays mapped.
+    if (win::runningThreadCount() == 0) dlclose(handle);
 }
 
 void Host::unloadAllModules() {
