@@ -1,1 +1,261 @@
-int main() { return 0; }
+// adscon: the headless console. It loads the module, opens a drawing, evaluates AutoLISP
+// expressions and scripts as the editor's command line would, and saves the drawing.
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "host/db/database.h"
+#include "host/lisp/interpreter.h"
+#include "host/runtime/dialog_script.h"
+#include "host/runtime/host.h"
+#include "host/runtime/output.h"
+#include "host/text.h"
+#include "host/win/registry.h"
+
+namespace fs = std::filesystem;
+using namespace host;
+
+namespace {
+
+constexpr int kExitOk = 0;
+constexpr int kExitLispError = 1;
+constexpr int kExitUsage = 2;
+
+const char kHelp[] = R"(Usage: adscon [OPTIONS] [SCRIPT.lsp ...]
+
+Loads the Vrn2 module into a headless drawing editor, opens a drawing, evaluates AutoLISP
+expressions and scripts in the order given, and saves the drawing.
+
+Options:
+  --root DIR         installation root of the suite; sets the AutoLISP symbol _DRV to DIR
+                     with a trailing separator (default: the project's own tree, which
+                     holds dwglib/, datlib/ and system/)
+  --drawing FILE     open this DXF drawing (default: a new, empty drawing)
+  --save FILE        save the drawing as DXF when everything ran (a temporary file is
+                     written and renamed, so a failed save leaves FILE as it was)
+  --cwd DIR          current folder of the run: result files are written here
+  --reg NAME=VALUE   set a string value under the suite's registry key
+                     HKEY_LOCAL_MACHINE\SOFTWARE\Morvell\Vornex\6.0 (repeatable); the key
+                     exists once any value under it is given
+  --reg-file FILE    read NAME=VALUE lines (UTF-8) for the suite's registry key
+  --module FILE      the module to load (default: Vrn2.so beside adscon)
+  -e EXPR            evaluate an AutoLISP expression and echo its value as the editor's
+                     command line does (repeatable)
+  -h, --help         show this text
+
+Output: what the module prints on the command line goes to standard output as printed;
+every alert is a line "[alert] TEXT"; an application error is a line
+"Application Vrn2 ERROR: TEXT"; an AutoLISP error is the editor's line "; error: MESSAGE"
+(for example "; error: no function definition: NAME") and stops the run.
+
+AutoLISP subset: numbers, strings with \\ \" \n \r \t \e and octal escapes, symbols, lists,
+quote, dotted pairs, comments (; and ;| |;); setq defun lambda if cond progn while repeat
+foreach and or eval apply mapcar set boundp read; + - * / 1+ 1- abs fix float rem sqrt sin
+cos atan exp log expt min max = /= < > <= >= zerop minusp numberp; car cdr cadr cddr caar
+cdar caddr cadar cdddr cons list append reverse length nth last member assoc subst null not
+atom listp eq equal type; strcat strlen substr strcase itoa atoi atof chr ascii wcmatch;
+princ prin1 print terpri alert; getvar setvar command polar angle distance trans rtos
+distof; entlast entnext entget entmake entmod entdel handent ssget sslength ssname ssadd
+ssdel ssmemb; and every function the module registers, called with its arguments converted
+as the editor converts them (a list of two or three numbers arrives as a point, integers as
+short integers, nil as nil, T as T).
+
+Headless forms:
+  (host-dialog NAME ACTIONS)  queue actions for the next time dialog NAME starts. ACTIONS is
+                              a list of (set KEY VALUE): a user's edit or click, the value
+                              changes and the tile's action runs with the editor's reason;
+                              (press KEY): a click on a button; (select KEY "I J"): a choice
+                              of list items. They are applied in order; the dialog is
+                              cancelled when they run out, or at once when nothing is queued.
+                              Each start of NAME uses the next queued list.
+  (host-entsel ENAME POINT)   queue the answer of the next entity pick
+  (host-getpoint POINT)       queue the answer of the next point pick
+  An empty pick queue answers as a cancelled pick.
+
+Exit status: 0 when everything ran, 1 when an AutoLISP error stopped a script,
+2 for bad options or unreadable files (drawing, script, module, save).
+)";
+
+struct Step {
+    bool isExpression;
+    std::string text;  // expression, or script path
+};
+
+struct Options {
+    std::string root;
+    std::string drawing;
+    std::string save;
+    std::string cwd;
+    std::string module;
+    std::vector<std::pair<std::string, std::string>> registry;
+    std::vector<Step> steps;
+};
+
+int usageError(const std::string& message) {
+    std::cerr << "adscon: " << message << "\nTry 'adscon --help'.\n";
+    return kExitUsage;
+}
+
+bool readFile(const std::string& path, std::string& out) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) return false;
+    std::ostringstream ss;
+    ss << in.rdbuf();
+    out = ss.str();
+    return true;
+}
+
+bool addRegistryLine(const std::string& line, Options& o) {
+    auto eq = line.find('=');
+    if (eq == std::string::npos || eq == 0) return false;
+    o.registry.emplace_back(line.substr(0, eq), line.substr(eq + 1));
+    return true;
+}
+
+// Returns -1 when the options are fine, else the exit status.
+int parseOptions(int argc, char** argv, Options& o) {
+    for (int i = 1; i < argc; ++i) {
+        std::string a = argv[i];
+        auto value = [&](std::string& into) {
+            if (i + 1 >= argc) return false;
+            into = argv[++i];
+            return true;
+        };
+        std::string v;
+        if (a == "-h" || a == "--help") {
+            std::cout << kHelp;
+            return kExitOk;
+        } else if (a == "--root") {
+            if (!value(o.root)) return usageError("--root needs a folder");
+        } else if (a == "--drawing") {
+            if (!value(o.drawing)) return usageError("--drawing needs a file");
+        } else if (a == "--save") {
+            if (!value(o.save)) return usageError("--save needs a file");
+        } else if (a == "--cwd") {
+            if (!value(o.cwd)) return usageError("--cwd needs a folder");
+        } else if (a == "--module") {
+            if (!value(o.module)) return usageError("--module needs a file");
+        } else if (a == "--reg") {
+            if (!value(v) || !addRegistryLine(v, o)) return usageError("--reg needs NAME=VALUE");
+        } else if (a == "--reg-file") {
+            std::string text;
+            if (!value(v)) return usageError("--reg-file needs a file");
+            if (!readFile(v, text)) return usageError("cannot read registry file " + v);
+            std::istringstream lines(text);
+            std::string line;
+            while (std::getline(lines, line)) {
+                if (!line.empty() && line.back() == '\r') line.pop_back();
+                if (line.empty() || line[0] == '#') continue;
+                if (!addRegistryLine(line, o)) return usageError("bad line in " + v + ": " + line);
+            }
+        } else if (a == "-e") {
+            if (!value(v)) return usageError("-e needs an expression");
+            o.steps.push_back({true, v});
+        } else if (a.size() > 1 && a[0] == '-') {
+            return usageError("unknown option " + a);
+        } else {
+            o.steps.push_back({false, a});
+        }
+    }
+    return -1;
+}
+
+std::string executableFolder() {
+    std::error_code ec;
+    fs::path self = fs::read_symlink("/proc/self/exe", ec);
+    return ec ? std::string(".") : self.parent_path().string();
+}
+
+// Evaluates one step; false when an AutoLISP error stopped it.
+bool runStep(lisp::Interpreter& in, const Step& step, const std::string& scriptText) {
+    try {
+        if (step.isExpression) {
+            lisp::ValuePtr v = in.evalText(fromUtf8(step.text));
+            std::wstring shown = lisp::printValue(v);
+            if (!(v && v->kind == lisp::Kind::Void)) emit(OutputKind::CommandLine, shown + L"\n");
+        } else {
+            in.evalText(fromUtf8(scriptText));
+        }
+        return true;
+    } catch (const lisp::LispError& e) {
+        emit(OutputKind::CommandLine, L"; error: " + e.message + L"\n");
+        return false;
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Options o;
+    if (int status = parseOptions(argc, argv, o); status >= 0) return status;
+
+    std::vector<std::string> scripts(o.steps.size());
+    for (size_t i = 0; i < o.steps.size(); ++i)
+        if (!o.steps[i].isExpression && !readFile(o.steps[i].text, scripts[i]))
+            return usageError("cannot read script " + o.steps[i].text);
+
+    std::string root = o.root.empty() ? std::string(VRN2_SOURCE_ROOT) : o.root;
+    if (!fs::is_directory(root)) return usageError("installation root is not a folder: " + root);
+    if (root.back() != '/' && root.back() != '\\') root += '/';
+
+    for (auto& [name, value] : o.registry) win::setRegistryValue(win::kSuiteKey, fromUtf8(name), fromUtf8(value));
+
+    std::unique_ptr<db::Database> database;
+    std::wstring drawingName;
+    if (!o.drawing.empty()) {
+        std::wstring error;
+        database = db::Database::load(o.drawing, error);
+        if (!database) return usageError("cannot open drawing " + o.drawing + ": " + toUtf8(error));
+        drawingName = fs::absolute(o.drawing).wstring();
+    } else {
+        database = std::make_unique<db::Database>();
+    }
+    if (!o.save.empty() && drawingName.empty()) drawingName = fs::absolute(o.save).wstring();
+
+    if (!o.cwd.empty()) {
+        std::error_code ec;
+        fs::current_path(o.cwd, ec);
+        if (ec) return usageError("cannot enter folder " + o.cwd + ": " + ec.message());
+    }
+
+    Host& h = Host::instance();
+    Document& doc = h.openDocument(drawingName, std::move(database));
+    doc.symbols()[L"_DRV"] = lisp::makeStr(fromUtf8(root));
+
+    std::string modulePath = o.module.empty() ? executableFolder() + "/" + VRN2_DEFAULT_MODULE : o.module;
+    std::wstring error;
+    if (!h.loadModule(modulePath, error)) {
+        std::cerr << "adscon: " << toUtf8(error) << "\n";
+        return kExitUsage;
+    }
+
+    lisp::Interpreter interpreter;
+    int status = kExitOk;
+    for (size_t i = 0; i < o.steps.size(); ++i) {
+        if (!runStep(interpreter, o.steps[i], scripts[i])) {
+            status = kExitLispError;
+            break;
+        }
+    }
+    for (auto& name : pendingDialogNames())
+        std::cerr << "adscon: actions queued for dialog " << toUtf8(name) << " were not used\n";
+
+    if (!o.save.empty()) {
+        if (status != kExitOk) {
+            std::cerr << "adscon: drawing not saved: the run stopped with an error\n";
+        } else if (!h.current().database().save(o.save, error)) {
+            std::cerr << "adscon: cannot save " << o.save << ": " << toUtf8(error) << "\n";
+            status = kExitUsage;
+        }
+    }
+    h.unloadAllModules();
+    h.closeAllDocuments();
+    std::fflush(stdout);
+    return status;
+}

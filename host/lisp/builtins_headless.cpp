@@ -1,0 +1,72 @@
+// The host's headless forms: scripted dialog actions and queued picks.
+#include "host/lisp/interpreter.h"
+#include "host/runtime/dialog_script.h"
+#include "host/runtime/input.h"
+
+namespace host::lisp {
+namespace {
+
+using Args = std::vector<ValuePtr>;
+
+std::wstring textOf(const ValuePtr& v) {
+    if (v && (v->kind == Kind::Str || v->kind == Kind::Sym)) return v->text;
+    if (isNumber(v)) return printValue(v, false);
+    badArgument(L"stringp", v);
+}
+
+DialogAction parseAction(const ValuePtr& form) {
+    auto parts = listItems(form);
+    if (parts.empty() || !parts[0] || parts[0]->kind != Kind::Sym) badArgument(L"dialog action", form);
+    DialogAction action;
+    const std::wstring& verb = parts[0]->text;
+    if (verb == L"SET" || verb == L"SELECT") {
+        if (parts.size() != 3) badArgument(L"dialog action", form);
+        action.kind = verb == L"SET" ? DialogAction::Kind::Set : DialogAction::Kind::Select;
+        action.key = textOf(parts[1]);
+        action.value = textOf(parts[2]);
+    } else if (verb == L"PRESS") {
+        if (parts.size() != 2) badArgument(L"dialog action", form);
+        action.kind = DialogAction::Kind::Press;
+        action.key = textOf(parts[1]);
+    } else {
+        badArgument(L"dialog action", form);
+    }
+    return action;
+}
+
+void pointArg(const ValuePtr& v, ads_point p) {
+    auto items = listItems(v);
+    if (items.size() < 2 || items.size() > 3) badArgument(L"2D/3D point", v);
+    for (size_t i = 0; i < 3; ++i) p[i] = i < items.size() ? numberArg(items[i]) : 0.0;
+}
+
+}  // namespace
+
+void addHeadlessBuiltins(Interpreter& in) {
+    in.define(L"HOST-DIALOG", [](Interpreter&, const Args& a) {
+        expectCount(a, 2, 2);
+        std::wstring name = textOf(a[0]);
+        if (!isList(a[1])) badArgument(L"listp", a[1]);
+        std::vector<DialogAction> actions;
+        for (auto& form : listItems(a[1])) actions.push_back(parseAction(form));
+        queueDialogActions(name, std::move(actions));
+        return t();
+    });
+    in.define(L"HOST-ENTSEL", [](Interpreter&, const Args& a) {
+        expectCount(a, 2, 2);
+        if (!a[0] || a[0]->kind != Kind::Ename) badArgument(L"lentityp", a[0]);
+        ads_point p;
+        pointArg(a[1], p);
+        queueEntityPick(a[0]->name, p);
+        return t();
+    });
+    in.define(L"HOST-GETPOINT", [](Interpreter&, const Args& a) {
+        expectCount(a, 1, 1);
+        ads_point p;
+        pointArg(a[0], p);
+        queuePointPick(p);
+        return t();
+    });
+}
+
+}  // namespace host::lisp

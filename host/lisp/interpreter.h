@@ -1,0 +1,57 @@
+// The console's AutoLISP evaluator: a small real subset with the editor's error messages.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/lisp/value.h"
+
+namespace host::lisp {
+
+// An AutoLISP error; message is the text after "; error: ".
+struct LispError {
+    std::wstring message;
+};
+
+[[noreturn]] void fail(std::wstring message);
+// "bad argument type: PREDICATE: VALUE"
+[[noreturn]] void badArgument(const wchar_t* predicate, const ValuePtr& value);
+
+class Interpreter {
+public:
+    Interpreter();
+
+    // Reads and evaluates every form; returns the value of the last. Throws LispError.
+    ValuePtr evalText(std::wstring_view text);
+    ValuePtr eval(const ValuePtr& form);
+    ValuePtr apply(const ValuePtr& function, const std::vector<ValuePtr>& args);
+
+    // Symbols live in the current document, so the module sees them with acedGetSym.
+    ValuePtr symbolValue(const std::wstring& upperName);
+    void setSymbol(const std::wstring& upperName, ValuePtr value);
+
+    // A special built-in receives its argument forms unevaluated.
+    void define(const std::wstring& name, Builtin fn, bool special = false);
+
+private:
+    ValuePtr callNamed(const ValuePtr& head, const ValuePtr& argForms);
+    ValuePtr callLambda(const UserFunction& fn, const std::vector<ValuePtr>& args);
+    std::map<std::wstring, ValuePtr> builtins_;
+    std::map<std::wstring, ValuePtr> detachedSymbols_;  // when no document is open
+    int depth_ = 0;
+};
+
+// Groups of built-ins, each in its own file.
+void addCoreBuiltins(Interpreter& in);      // control, arithmetic, lists, strings, output
+void addSystemBuiltins(Interpreter& in);     // system variables, commands, geometry, formats
+void addDrawingBuiltins(Interpreter& in);   // entities and selection sets
+void addHeadlessBuiltins(Interpreter& in);  // host-dialog, host-entsel, host-getpoint
+
+// Argument helpers for built-ins.
+void expectCount(const std::vector<ValuePtr>& args, size_t min, size_t max);
+const std::wstring& stringArg(const ValuePtr& v);
+long long intArg(const ValuePtr& v);
+double numberArg(const ValuePtr& v);
+
+}  // namespace host::lisp
