@@ -56,8 +56,11 @@ double EnthalpyAtHumidityWater(double T_K, double P_Pa, double fy_percent);
 
 // ---- Inverse functions (bands of -60..200 °C and the secant method) ---------------------
 
+// What DewPointFromPressure returns, and the solvers store, for a temperature out of range.
+inline constexpr double kTemperatureOutOfRange_C = -1000.0;
+
 // Temperature, °C, at which the saturation pressure equals p_Pa. Outside -60..200 °C it shows
-// the alert "求得温度范围不对." and returns kTemperatureOutOfRange_C.
+// the alert "求得温度范围不对." once and returns kTemperatureOutOfRange_C.
 double DewPointFromPressure(double p_Pa);
 
 // Wet-bulb temperature, °C, of air at t_C with vapour pressure pq_Pa under pressure P_Pa.
@@ -68,12 +71,10 @@ double WetBulbTemperature(double t_C, double pq_Pa, double P_Pa);
 // enthalpy i_kJkg. Exactly 0.0 when the enthalpy lies in no band.
 double TemperatureFromEnthalpy(double i_kJkg, double P_Pa, double fy_percent);
 
-inline constexpr double kTemperatureOutOfRange_C = -1000.0;
-
 // ---- State solvers -------------------------------------------------------------------------
 // Each reads B and its known fields, overwrites the fields it computes and returns RTNORM, or
 // RTERROR when the result is impossible: fy > 100 (or NaN), then pb > 1000·B, then d < 0.
-// None of them computes db unless db is a known field; callers that show db compute it.
+// No solver writes db (the two db solvers read it); callers that show db compute it.
 
 int StateFromEnthalpyMoisture(AirState& state);  // known i, d
 int StateFromTempHumidity(AirState& state);      // known t, fy
