@@ -23,7 +23,8 @@ int dispatchInvocation() {
     int code = acedGetFunCode();
     // The bound is one past the last slot; code 63 is never registered, so never arrives.
     if (code < 1 || code > kFunctionCount + 1) return RTERROR;
-    Handler handler = kFunctionTable[code].handler;
+    // Code 63 passes the bound but has no slot in the table: nothing to call.
+    Handler handler = code <= kFunctionCount ? kFunctionTable[code].handler : nullptr;
     if (!handler) return RTERROR;
     return handler() == RTNORM ? RSRSLT : RSERR;
 }

@@ -53,6 +53,10 @@ Document& Host::openDocument(std::wstring fileName, std::unique_ptr<db::Database
     return doc;
 }
 
+Document& Host::openDocument(std::wstring fileName) {
+    return openDocument(std::move(fileName), std::make_unique<db::Database>());
+}
+
 void Host::closeDocument(Document& doc) {
     Document* previous = current_;
     current_ = &doc;
@@ -142,22 +146,30 @@ void Host::unloadAllModules() {
 }
 
 CallResult Host::invoke(std::wstring_view name, const std::vector<lisp::ValuePtr>& args) {
-    CallResult result;
-    if (!current_) return result;
+    if (!current_) return {};
     auto& functions = current_->functions();
     auto it = functions.find(upperAscii(name));
-    if (it == functions.end() || !it->second.module) return result;
+    if (it == functions.end() || !it->second.module) return {};
+    CallResult result;
     RegisteredFunction fn = it->second;
+    Module* previous = activeModule_;
+    activeModule_ = fn.module;
+    result = runInvocation(fn.code, args, [&] { return fn.module->entry(AcRx::kInvkSubrMsg, fn.module->handle); });
+    activeModule_ = previous;
+    result.defined = true;
+    return result;
+}
+
+CallResult Host::runInvocation(short code, const std::vector<lisp::ValuePtr>& args,
+                               const std::function<int()>& body) {
+    CallResult result;
     result.defined = true;
     Invocation inv;
-    inv.code = fn.code;
+    inv.code = code;
     inv.args = argsToResbuf(args);
     inv.result = lisp::nil();
     invocations_.push_back(inv);
-    Module* previous = activeModule_;
-    activeModule_ = fn.module;
-    result.entryResult = fn.module->entry(AcRx::kInvkSubrMsg, fn.module->handle);
-    activeModule_ = previous;
+    result.entryResult = body();
     result.value = invocations_.back().result;
     acutRelRb(invocations_.back().args);
     invocations_.pop_back();

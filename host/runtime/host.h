@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <deque>
 #include <map>
 #include <memory>
@@ -73,6 +74,7 @@ public:
     // Documents. Opening makes the document current and sends each loaded module
     // kLoadDwgMsg; closing sends kUnloadDwgMsg and tells the document reactors.
     Document& openDocument(std::wstring fileName, std::unique_ptr<db::Database> database);
+    Document& openDocument(std::wstring fileName);  // a new, empty drawing
     void closeDocument(Document& doc);
     void closeAllDocuments();
     Document& current();
@@ -90,6 +92,11 @@ public:
 
     // Calls the external function NAME of the current document with the given arguments.
     CallResult invoke(std::wstring_view name, const std::vector<lisp::ValuePtr>& args);
+
+    // Runs BODY as the invocation of function CODE with the given arguments: what the host
+    // does around a module's kInvkSubrMsg, offered to tests that call a dispatcher directly.
+    CallResult runInvocation(short code, const std::vector<lisp::ValuePtr>& args,
+                             const std::function<int()>& body);
 
     // State of the invocation under way (acedGetFunCode, acedGetArgs, acedRetXxx).
     struct Invocation {

@@ -1,0 +1,87 @@
+"""The console as a user runs it: options, echo, messages, exit statuses."""
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+ADSCON = os.environ["ADSCON"]
+
+
+def run(*args, cwd=None):
+    p = subprocess.run([ADSCON, *args], capture_output=True, text=True, cwd=cwd, timeout=60)
+    return p.returncode, p.stdout, p.stderr
+
+
+class Help(unittest.TestCase):
+    def test_help_documents_every_option_and_headless_form(self):
+        code, out, _ = run("--help")
+        self.assertEqual(code, 0)
+        for word in ["--root", "--drawing", "--save", "--cwd", "--reg", "--reg-file", "--module", "-e",
+                     "(host-dialog NAME ACTIONS)", "(set KEY VALUE)", "(press KEY)",
+                     "(host-entsel ENAME POINT)", "(host-getpoint POINT)", "Exit status"]:
+            self.assertIn(word, out)
+
+
+class Evaluation(unittest.TestCase):
+    def test_values_echo_as_the_command_line_shows_them(self):
+        code, out, _ = run("-e", "(+ 1 2)", "-e", "(/ 10.0 4)", "-e", "(list 1 \"a\" 'b '(c . 2))",
+                           "-e", "(setq x nil)", "-e", "(princ)")
+        self.assertEqual(code, 0)
+        self.assertEqual(out, '3\n2.5\n(1 "a" B (C . 2))\nnil\n')
+
+    def test_unknown_function_gives_the_editor_error_and_status_1(self):
+        code, out, _ = run("-e", "(princ \"before\")", "-e", "(zz-unknown 1)", "-e", "(princ \"after\")")
+        self.assertEqual(code, 1)
+        self.assertIn("; error: no function definition: ZZ-UNKNOWN", out)
+        self.assertNotIn("after", out)
+
+    def test_scripts_run_in_order_with_defun_and_loops(self):
+        with tempfile.TemporaryDirectory() as d:
+            a, b = os.path.join(d, "a.lsp"), os.path.join(d, "b.lsp")
+            with open(a, "w") as f:
+                f.write("(defun sq (n / r) (setq r (* n n)) r)\n;| block\ncomment |;\n(setq total 0)\n")
+            with open(b, "w") as f:
+                f.write("(foreach n '(1 2 3) (setq total (+ total (sq n))))\n(princ total)\n")
+            code, out, _ = run(a, b)
+            self.assertEqual(code, 0)
+            self.assertEqual(out, "14")
+
+    def test_registry_values_reach_the_module(self):
+        code, out, _ = run("--reg", "SysPath=D:\\Vornex\\", "--reg", "VrnResult=ok", "-e", "(_Xgetsyspath)",
+                           "-e", "(XGetVrA)", "-e", "(XGetVrB)")
+        self.assertEqual(code, 0)
+        self.assertEqual(out, '"D:\\\\Vornex\\\\"\n"ok"\n""\n')
+
+    def test_drv_is_the_root_with_a_trailing_separator(self):
+        with tempfile.TemporaryDirectory() as d:
+            code, out, _ = run("--root", d, "-e", "_DRV")
+            self.assertEqual(code, 0)
+            self.assertEqual(out, '"%s/"\n' % d)
+
+    def test_results_go_to_the_cwd_folder(self):
+        with tempfile.TemporaryDirectory() as d:
+            code, _, _ = run("--cwd", d, "-e", "(setq f 1)")
+            self.assertEqual(code, 0)
+
+
+class BadInput(unittest.TestCase):
+    def test_bad_options_and_unreadable_files_give_status_2(self):
+        for args in (["--bogus"], ["--root"], ["/no/such/script.lsp"], ["--reg", "novalue"],
+                     ["--module", "/no/such/module.so", "-e", "1"], ["--cwd", "/no/such/folder"]):
+            code, out, err = run(*args)
+            self.assertEqual(code, 2, args)
+            self.assertTrue(err.startswith("adscon: "), (args, err))
+            self.assertEqual(out, "", args)
+
+    def test_malformed_input_is_an_autolisp_error(self):
+        code, out, _ = run("-e", "(+ 1 2")
+        self.assertEqual(code, 1)
+        self.assertIn("; error: malformed list on input", out)
+        code, out, _ = run("-e", "(+ 1 \"a\")")
+        self.assertEqual(code, 1)
+        self.assertIn('; error: bad argument type: numberp: "a"', out)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,47 @@
+#include "tests/support/host_session.h"
+
+#include "host/lisp/interpreter.h"
+#include "host/runtime/dialog_script.h"
+#include "host/runtime/input.h"
+#include "host/runtime/screen.h"
+#include "host/text.h"
+#include "host/win/registry.h"
+
+namespace testing_support {
+
+std::wstring sourceRoot() { return host::fromUtf8(VRN2_SOURCE_ROOT); }
+std::wstring buildRoot() { return host::fromUtf8(VRN2_BUILD_ROOT); }
+
+void HostSession::SetUp() {
+    capture_ = std::make_unique<host::OutputCapture>();
+    host::win::clearRegistry();
+    host::clearDialogActions();
+    host::clearPicks();
+    host::clearScreenVectors();
+    host().openDocument(L"");
+    doc().symbols()[L"_DRV"] = lisp::makeStr(sourceRoot());
+    std::wstring error;
+    module_ = host().loadModule(VRN2_MODULE_PATH, error);
+    ASSERT_NE(module_, nullptr) << host::toUtf8(error);
+}
+
+void HostSession::TearDown() {
+    host().unloadAllModules();
+    host().closeAllDocuments();
+    capture_.reset();
+}
+
+host::CallResult HostSession::call(const std::wstring& name, const std::vector<lisp::ValuePtr>& args) {
+    return host().invoke(name, args);
+}
+
+std::wstring HostSession::eval(const std::wstring& text) {
+    static host::lisp::Interpreter interpreter;
+    try {
+        return lisp::printValue(interpreter.evalText(text));
+    } catch (const host::lisp::LispError& e) {
+        return L"; error: " + e.message;
+    }
+}
+
+}  // namespace testing_support

@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# Installs what the build needs (Debian packages), builds, and runs either the example or the
+# tests. Usage: tools/setup.sh example | test
+set -euo pipefail
+here=$(cd "$(dirname "$0")/.." && pwd)
+build="$here/build"
+what=${1:-example}
+
+packages=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev python3 python3-ezdxf)
+missing=()
+for p in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "Installing: ${missing[*]}"
+  sudo_cmd=""
+  [ "$(id -u)" -ne 0 ] && sudo_cmd="sudo"
+  $sudo_cmd apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive $sudo_cmd apt-get install -y -qq "${missing[@]}" >/dev/null
+fi
+
+cmake -S "$here" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+cmake --build "$build" -j"$(nproc)"
+
+case "$what" in
+  example)
+    out="$build/example-run"
+    mkdir -p "$out"
+    "$build/adscon" --cwd "$out" --reg 'SysPath=C:\Vornex\' "$here/examples/first-steps.lsp"
+    ;;
+  test)
+    cd "$build" && ctest --output-on-failure -j"$(nproc)"
+    ;;
+  *)
+    echo "usage: tools/setup.sh example | test" >&2
+    exit 2
+    ;;
+esac
