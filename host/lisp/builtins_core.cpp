@@ -232,26 +232,22 @@ void addArithmetic(Interpreter& in) {
         double r = std::pow(numberArg(a[0]), numberArg(a[1]));
         return number(r, a[0]->kind == Kind::Real || a[1]->kind == Kind::Real);
     });
-    in.define(L"MIN", [](Interpreter&, const Args& a) {
-        if (a.empty()) return makeInt(0);
-        ValuePtr best = a[0];
-        bool real = false;
-        for (auto& v : a) {
-            real = real || v->kind == Kind::Real;
-            if (numberArg(v) < numberArg(best)) best = v;
-        }
-        return number(toDouble(best), real);
-    });
-    in.define(L"MAX", [](Interpreter&, const Args& a) {
-        if (a.empty()) return makeInt(0);
-        ValuePtr best = a[0];
-        bool real = false;
-        for (auto& v : a) {
-            real = real || v->kind == Kind::Real;
-            if (numberArg(v) > numberArg(best)) best = v;
-        }
-        return number(toDouble(best), real);
-    });
+    // MIN and MAX give a real when any argument is real, as the editor does.
+    auto extremum = [&in](const wchar_t* name, bool wantGreater) {
+        in.define(name, [wantGreater](Interpreter&, const Args& a) {
+            if (a.empty()) return makeInt(0);
+            ValuePtr best = a[0];
+            bool real = false;
+            for (auto& v : a) {
+                real = real || v->kind == Kind::Real;
+                double x = numberArg(v), b = numberArg(best);
+                if (wantGreater ? x > b : x < b) best = v;
+            }
+            return number(toDouble(best), real);
+        });
+    };
+    extremum(L"MIN", false);
+    extremum(L"MAX", true);
     in.define(L"PI", [](Interpreter&, const Args&) { return makeReal(3.141592653589793); });
     auto compare = [&in](const wchar_t* name, bool (*ok)(int)) {
         in.define(name, [ok](Interpreter&, const Args& a) {

@@ -34,11 +34,6 @@ DialogAction parseAction(const ValuePtr& form) {
     return action;
 }
 
-void pointArg(const ValuePtr& v, ads_point p) {
-    auto items = listItems(v);
-    if (items.size() < 2 || items.size() > 3) badArgument(L"2D/3D point", v);
-    for (size_t i = 0; i < 3; ++i) p[i] = i < items.size() ? numberArg(items[i]) : 0.0;
-}
 
 }  // namespace
 

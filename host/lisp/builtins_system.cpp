@@ -14,11 +14,6 @@ namespace {
 
 using Args = std::vector<ValuePtr>;
 
-void pointArg(const ValuePtr& v, ads_point p) {
-    auto items = listItems(v);
-    if (items.size() < 2 || items.size() > 3) badArgument(L"2D/3D point", v);
-    for (size_t i = 0; i < 3; ++i) p[i] = i < items.size() ? numberArg(items[i]) : 0.0;
-}
 
 ValuePtr pointValue(const ads_point p, bool threeD) {
     Args coords{makeReal(p[0]), makeReal(p[1])};

@@ -31,6 +31,12 @@ double numberArg(const ValuePtr& v) {
     return toDouble(v);
 }
 
+void pointArg(const ValuePtr& v, double point[3]) {
+    auto items = listItems(v);
+    if (items.size() < 2 || items.size() > 3) badArgument(L"2D/3D point", v);
+    for (size_t i = 0; i < 3; ++i) point[i] = i < items.size() ? numberArg(items[i]) : 0.0;
+}
+
 Interpreter::Interpreter() {
     addCoreBuiltins(*this);
     addSystemBuiltins(*this);

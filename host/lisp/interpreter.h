@@ -53,5 +53,7 @@ void expectCount(const std::vector<ValuePtr>& args, size_t min, size_t max);
 const std::wstring& stringArg(const ValuePtr& v);
 long long intArg(const ValuePtr& v);
 double numberArg(const ValuePtr& v);
+// A list of two or three numbers as a point; a 2D point gets z = 0.
+void pointArg(const ValuePtr& v, double point[3]);
 
 }  // namespace host::lisp
