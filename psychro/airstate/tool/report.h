@@ -26,6 +26,5 @@ void WriteTable(std::FILE* out, const Outcome& outcome);
 // significant digits, so that they read back to the same doubles; NaN and infinities as null.
 void WriteJson(std::FILE* out, const Outcome& outcome);
 
-std::string ToUtf8(std::wstring_view text);
 
 }  // namespace airstate_tool
