@@ -1,0 +1,92 @@
+// Image and image_button tiles: their size in pixels, and the vectors, fills and slides drawn
+// into them between start_image and end_image, which are recorded for the dialog's record.
+#include <algorithm>
+#include <cmath>
+
+#include "adsdlg.h"
+#include "host/dcl/runtime.h"
+#include "host/dcl/tile_values.h"
+#include "host/runtime/screen.h"
+
+using host::dcl::ImageOp;
+using host::dcl::Runtime;
+
+namespace {
+
+host::dcl::RuntimeTile* openImageTile() {
+    Runtime& rt = Runtime::instance();
+    if (!rt.image) return nullptr;
+    host::dcl::Dialog* dialog = rt.dialog(reinterpret_cast<ads_hdlg>(rt.image->dialog));
+    return dialog ? &dialog->tile(rt.image->tile) : nullptr;
+}
+
+bool record(ImageOp op) {
+    host::dcl::RuntimeTile* t = openImageTile();
+    if (!t) return false;
+    t->image.push_back(std::move(op));
+    return true;
+}
+
+// ads_vector_image draws into the open image tile; without one it draws on the screen.
+void installVectorHook() {
+    static bool installed = false;
+    if (installed) return;
+    host::setImageVectorHook([](short x1, short y1, short x2, short y2, short color) {
+        return record(ImageOp{ImageOp::Kind::Vector, x1, y1, x2, y2, color, {}});
+    });
+    installed = true;
+}
+
+// Width and height in pixels: character cells of a fixed size; with only one of them, the
+// other follows from aspect_ratio (width / height). Tiles without a width are as wide as
+// their label.
+void pixelSize(const host::dcl::Tile& tile, long& width, long& height) {
+    double w = host::dcl::realAttribute(tile, L"width", -1);
+    double h = host::dcl::realAttribute(tile, L"height", -1);
+    double aspect = host::dcl::realAttribute(tile, L"aspect_ratio", 0);
+    width = w >= 0 ? std::lround(w * host::dcl::kCellWidthPixels) : -1;
+    height = h >= 0 ? std::lround(h * host::dcl::kCellHeightPixels) : -1;
+    if (aspect > 0 && width >= 0 && height < 0) height = std::lround(width / aspect);
+    if (aspect > 0 && height >= 0 && width < 0) width = std::lround(height * aspect);
+    if (width < 0) width = static_cast<long>(tile.attr(L"label").size()) * host::dcl::kCellWidthPixels;
+    if (height < 0) height = host::dcl::kCellHeightPixels;
+}
+
+}  // namespace
+
+extern "C" int ads_dimensions_tile(ads_hdlg hdlg, const ACHAR* key, short* cx, short* cy) {
+    Runtime& rt = Runtime::instance();
+    host::dcl::Dialog* dialog = rt.dialog(hdlg);
+    int tile = rt.findTile(dialog, key);
+    if (tile < 0 || !cx || !cy) return RTERROR;
+    long width = 0, height = 0;
+    pixelSize(*dialog->tile(tile).source, width, height);
+    *cx = static_cast<short>(std::clamp(width - 1, 0L, 32767L));
+    *cy = static_cast<short>(std::clamp(height - 1, 0L, 32767L));
+    return RTNORM;
+}
+
+extern "C" int ads_start_image(ads_hdlg hdlg, const ACHAR* key) {
+    Runtime& rt = Runtime::instance();
+    host::dcl::Dialog* dialog = rt.dialog(hdlg);
+    int tile = rt.findTile(dialog, key);
+    if (tile < 0 || !host::dcl::isImage(dialog->tile(tile).kind())) return RTERROR;
+    installVectorHook();
+    rt.image = host::dcl::ImageSession{dialog->serial(), tile};
+    return RTNORM;
+}
+
+extern "C" int ads_fill_image(short x1, short y1, short x2, short y2, short color) {
+    return record(ImageOp{ImageOp::Kind::Fill, x1, y1, x2, y2, color, {}}) ? RTNORM : RTERROR;
+}
+
+extern "C" int ads_slide_image(short x1, short y1, short x2, short y2, const ACHAR* slnam) {
+    if (!slnam) return RTERROR;
+    return record(ImageOp{ImageOp::Kind::Slide, x1, y1, x2, y2, 0, slnam}) ? RTNORM : RTERROR;
+}
+
+extern "C" int ads_end_image(void) {
+    bool open = openImageTile() != nullptr;
+    Runtime::instance().image.reset();
+    return open ? RTNORM : RTERROR;
+}

@@ -1,0 +1,17 @@
+#include "host/dcl/problem.h"
+
+#include "acutads.h"
+
+namespace host::dcl {
+
+std::wstring problemLine(const Problem& problem) {
+    std::wstring text = L"DCL error in " + problem.file.generic_wstring();
+    if (problem.line > 0) text += L" line " + std::to_wstring(problem.line);
+    return text + L": " + problem.message + L"\n";
+}
+
+void reportProblems(const std::vector<Problem>& problems) {
+    for (const auto& p : problems) acutPrintf(L"%ls", problemLine(p).c_str());
+}
+
+}  // namespace host::dcl

@@ -1,0 +1,137 @@
+#include "host/dcl/runtime.h"
+
+#include "acutads.h"
+#include "host/dcl/script.h"
+#include "host/runtime/host.h"
+
+namespace host::dcl {
+namespace {
+
+constexpr short kDialogActiveBit = 8;  // CMDACTIVE while a dialog is open
+
+SysVars* documentVariables() {
+    Host& h = Host::instance();
+    return h.hasDocument() ? &h.current().sysvars() : nullptr;
+}
+
+short shortVariable(SysVars& vars, const wchar_t* name) {
+    const SysVarValue* v = vars.find(name);
+    return v ? v->integer : 0;
+}
+
+}  // namespace
+
+Runtime& Runtime::instance() {
+    static Runtime r;
+    return r;
+}
+
+int Runtime::addFile(std::unique_ptr<LoadedDcl> dcl) {
+    int id = nextFile_++;
+    files_[id] = std::move(dcl);
+    return id;
+}
+
+bool Runtime::removeFile(int id) { return files_.erase(id) > 0; }
+
+const LoadedDcl* Runtime::file(int id) const {
+    auto it = files_.find(id);
+    return it == files_.end() ? nullptr : it->second.get();
+}
+
+Dialog* Runtime::create(const std::wstring& name, const LoadedDcl& dcl, CLIENTFUNC defaultCallback, int x, int y) {
+    auto it = dcl.dialogs.find(name);
+    if (it == dcl.dialogs.end()) return nullptr;
+    if (running_.size() >= static_cast<size_t>(kMaxNestedDialogs)) {
+        acutPrintf(L"Dialog \"%ls\": more than %d nested dialogs\n", name.c_str(), kMaxNestedDialogs);
+        return nullptr;
+    }
+    std::uintptr_t serial = nextDialog_++;
+    const auto& tile = it->second;
+    auto dialog = std::make_unique<Dialog>(serial, name, tile.file, tile, defaultCallback, x, y);
+    Dialog* raw = dialog.get();
+    dialogs_[serial] = std::move(dialog);
+    return raw;
+}
+
+Dialog* Runtime::dialog(ads_hdlg handle) {
+    auto it = dialogs_.find(reinterpret_cast<std::uintptr_t>(handle));
+    return it == dialogs_.end() ? nullptr : it->second.get();
+}
+
+TileRef Runtime::tile(ads_htile handle) {
+    auto bits = reinterpret_cast<std::uintptr_t>(handle);
+    auto it = dialogs_.find(bits >> 20);
+    int index = static_cast<int>(bits & 0xFFFFF) - 1;
+    if (it == dialogs_.end() || index < 0 || index >= it->second->tileCount()) return {};
+    return {it->second.get(), index};
+}
+
+int Runtime::findTile(Dialog* dialog, const ACHAR* key) {
+    if (!dialog || !key) return -1;
+    return dialog->find(key);
+}
+
+int Runtime::run(Dialog& d) {
+    d.started = true;
+    d.depth = static_cast<int>(running_.size()) + 1;
+    running_.push_back(&d);
+    markActive(true);
+    if (!d.done && !terminating_) applyScript(d);
+    if (!d.done && !terminating_) {  // the script ran out: the dialog is closed unanswered
+        d.done = true;
+        d.status = DLGCANCEL;
+        d.cancelledByHost = true;
+    }
+    if (terminating_) d.status = DLGALLDONE;
+    int status = d.status;
+    history_.push_back(d.record());
+    running_.pop_back();
+    discard(d);
+    if (running_.empty()) {
+        terminating_ = false;
+        markActive(false);
+    }
+    if (SysVars* vars = documentVariables()) vars->setShort(L"DIASTAT", static_cast<short>(status < 0 ? 0 : status), true);
+    return status;
+}
+
+void Runtime::finish(Dialog& d, int status) {
+    d.done = true;
+    d.status = status;
+}
+
+void Runtime::terminateAll() {
+    std::vector<Dialog*> idle;
+    for (auto& [serial, d] : dialogs_)
+        if (!d->started) idle.push_back(d.get());
+    for (Dialog* d : idle) discard(*d);
+    for (Dialog* d : running_) finish(*d, DLGALLDONE);
+    if (!running_.empty()) terminating_ = true;
+}
+
+void Runtime::discard(Dialog& d) {
+    std::uintptr_t serial = d.serial();
+    if (list && list->dialog == serial) list.reset();
+    if (image && image->dialog == serial) image.reset();
+    dialogs_.erase(serial);
+}
+
+void Runtime::markActive(bool active) {
+    SysVars* vars = documentVariables();
+    if (!vars) return;
+    short v = shortVariable(*vars, L"CMDACTIVE");
+    vars->setShort(L"CMDACTIVE", static_cast<short>(active ? (v | kDialogActiveBit) : (v & ~kDialogActiveBit)), true);
+}
+
+void Runtime::reset() {
+    terminateAll();
+    // Dialogs still on the stack belong to callers up the stack; a reset from a callback is
+    // not supported, so the stack is empty here in practice.
+    files_.clear();
+    list.reset();
+    image.reset();
+    history_.clear();
+}
+
+}  // namespace host::dcl

@@ -1,0 +1,3 @@
+s : dialog { label = "S"; ok_only; }
+/* this comment
+   is never closed

@@ -1,0 +1,2 @@
+@include "nowhere.dcl"
+inc_dlg : dialog { label = "I"; ok_only; }

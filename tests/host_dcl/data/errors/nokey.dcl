@@ -1,0 +1,5 @@
+nk : dialog {
+    label = "NK";
+    : toggle { label = "no key"; }
+    ok_only;
+}

@@ -1,0 +1,5 @@
+r : dialog {
+    label = "R";
+    : image { key = "i"; width = .5; height = 2; }
+    ok_only;
+}

@@ -1,0 +1,4 @@
+s : dialog {
+    label = "never closed;
+    ok_only;
+}

@@ -1,0 +1,4 @@
+sa : dialog {
+    label = "SA";
+    : ok_cancel { label = "changed"; }
+}

@@ -1,0 +1,5 @@
+// missing semicolon
+bad : dialog {
+    label = "Bad"
+    ok_only;
+}

@@ -1,0 +1,5 @@
+u : dialog {
+    label = "U";
+    : fancy_button { key = "f"; }
+    ok_only;
+}
