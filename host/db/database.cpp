@@ -1,18 +1,249 @@
 #include "host/db/database.h"
 
-namespace host::db {
+#include <atomic>
+#include <charconv>
 
-Database::Database() = default;
+#include "host/db/blob.h"
+#include "host/db/dxf_reader.h"
+#include "host/db/entmake_state.h"
+#include "host/db/selection_sets.h"
+#include "host/db/skeleton.h"
+#include "host/text.h"
+
+namespace host::db {
+namespace {
+
+long nextSerial() {
+    static std::atomic<long> serial{0x5A00};
+    return ++serial;
+}
+
+bool equalsNoCaseUpper(std::wstring_view name, std::wstring_view upperName) {
+    if (name.size() != upperName.size()) return false;
+    for (size_t i = 0; i < name.size(); ++i) {
+        wchar_t c = name[i];
+        if (c >= L'a' && c <= L'z') c = static_cast<wchar_t>(c - L'a' + L'A');
+        if (c != upperName[i]) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+std::string handleText(uint64_t handle) {
+    char buf[20];
+    auto r = std::to_chars(buf, buf + sizeof buf, handle, 16);
+    std::string s(buf, r.ptr);
+    for (auto& c : s)
+        if (c >= 'a' && c <= 'f') c = static_cast<char>(c - 'a' + 'A');
+    return s;
+}
+
+bool parseHandle(std::string_view text, uint64_t& handle) {
+    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
+    while (!text.empty() && (text.back() == ' ' || text.back() == '\t' || text.back() == '\r'))
+        text.remove_suffix(1);
+    if (text.empty() || text.size() > 16) return false;
+    auto r = std::from_chars(text.data(), text.data() + text.size(), handle, 16);
+    return r.ec == std::errc() && r.ptr == text.data() + text.size();
+}
+
+Database::Database(Empty)
+    : serial_(nextSerial()),
+      selectionSets_(std::make_unique<SelectionSets>()),
+      entMake_(std::make_unique<EntMakeState>()) {}
+
+Database::Database() : Database(Empty{}) {
+    std::wstring error;
+    DxfReader reader(*this, L"new drawing");
+    reader.read(newDrawingDxf(), error);  // the built-in drawing is valid
+    format_.eol = "\r\n";
+}
+
 Database::~Database() = default;
 
-std::unique_ptr<Database> Database::load(const std::filesystem::path&, std::wstring& error) {
-    error = L"reading DXF drawings is not available in this version";
+std::unique_ptr<Database> Database::parse(std::string_view text, std::wstring_view source,
+                                          std::wstring& error) {
+    std::unique_ptr<Database> db(new Database(Empty{}));
+    DxfReader reader(*db, source);
+    if (!reader.read(text, error)) return nullptr;
+    return db;
+}
+
+// --- names ----------------------------------------------------------------------------------
+
+void Database::nameOf(uint32_t index, ads_name name) const {
+    name[0] = serial_;
+    name[1] = static_cast<long>(index) + 1;
+}
+
+uint32_t Database::indexOf(const ads_name name) const {
+    if (!name || name[0] != serial_ || name[1] < 1) return kNone;
+    auto index = static_cast<uint64_t>(name[1] - 1);
+    return index < records_.size() ? static_cast<uint32_t>(index) : kNone;
+}
+
+void Database::nameOfHandle(uint64_t handle, ads_name name) const {
+    uint32_t index = findHandle(handle);
+    if (index != kNone) {
+        nameOf(index, name);
+        return;
+    }
+    // A reference to nothing: negative, so that it names no record but keeps its handle.
+    name[0] = serial_;
+    name[1] = -static_cast<long>(handle) - 1;
+}
+
+bool Database::handleOfName(const ads_name name, uint64_t& handle) const {
+    if (!name || name[0] != serial_) return false;
+    if (name[1] < 0) {
+        handle = static_cast<uint64_t>(-(name[1] + 1));
+        return true;
+    }
+    uint32_t index = indexOf(name);
+    if (index == kNone) return false;
+    handle = records_[index].handle;
+    return true;
+}
+
+// --- records --------------------------------------------------------------------------------
+
+uint32_t Database::typeId(std::string_view name) {
+    auto it = typeIds_.find(std::string(name));
+    if (it != typeIds_.end()) return it->second;
+    auto id = static_cast<uint32_t>(typeNames_.size());
+    typeNames_.emplace_back(name);
+    typeIds_.emplace(std::string(name), id);
+    return id;
+}
+
+uint32_t Database::addRecord(std::string_view type, std::string groups, RecordKind kind) {
+    Record r;
+    r.type = typeId(type);
+    r.groups = std::move(groups);
+    r.kind = kind;
+    records_.push_back(std::move(r));
+    auto index = static_cast<uint32_t>(records_.size() - 1);
+    records_[index].main = kind == RecordKind::SubEntity ? kNone : index;
+    return index;
+}
+
+uint32_t Database::findHandle(uint64_t handle) const {
+    if (handle == 0) return kNone;
+    auto it = byHandle_.find(handle);
+    return it == byHandle_.end() ? kNone : it->second;
+}
+
+void Database::indexHandle(uint64_t handle, uint32_t index) {
+    records_[index].handle = handle;
+    if (handle) byHandle_[handle] = index;
+    noteHandle(handle);
+}
+
+uint64_t Database::newHandle() {
+    while (byHandle_.count(handseed_)) ++handseed_;
+    uint64_t h = handseed_++;
+    std::string seed;
+    appendGroup(seed, 5, handleText(handseed_));
+    setHeaderVar("$HANDSEED", std::move(seed));
+    return h;
+}
+
+void Database::noteHandle(uint64_t handle) {
+    if (handle >= handseed_) handseed_ = handle + 1;
+}
+
+void Database::indexAll() {
+    byHandle_.clear();
+    byHandle_.reserve(records_.size());
+    for (uint32_t i = 0; i < records_.size(); ++i)
+        if (records_[i].handle) byHandle_.emplace(records_[i].handle, i);
+}
+
+// --- header ---------------------------------------------------------------------------------
+
+const HeaderVar* Database::headerVar(std::string_view name) const {
+    for (const auto& v : header_)
+        if (v.name == name) return &v;
     return nullptr;
 }
 
-bool Database::save(const std::filesystem::path&, std::wstring& error) const {
-    error = L"writing DXF drawings is not available in this version";
-    return false;
+HeaderVar& Database::setHeaderVar(std::string_view name, std::string groups) {
+    for (auto& v : header_)
+        if (v.name == name) {
+            v.groups = std::move(groups);
+            return v;
+        }
+    header_.push_back(HeaderVar{std::string(name), std::move(groups)});
+    return header_.back();
+}
+
+std::string_view Database::headerValue(std::string_view name, int code) const {
+    const HeaderVar* v = headerVar(name);
+    std::string_view value;
+    if (v && findGroup(v->groups, code, value)) return value;
+    return {};
+}
+
+void Database::setVersion(std::string acadver, std::string_view codePage) {
+    acadver_ = std::move(acadver);
+    codec_ = TextCodec::forDrawing(acadver_, codePage);
+}
+
+// --- structure ------------------------------------------------------------------------------
+
+Table* Database::table(std::string_view upperName) {
+    for (auto& t : tables_)
+        if (t.name == upperName) return &t;
+    return nullptr;
+}
+
+const Table* Database::table(std::string_view upperName) const {
+    for (const auto& t : tables_)
+        if (t.name == upperName) return &t;
+    return nullptr;
+}
+
+std::wstring Database::recordName(uint32_t index) const {
+    std::string_view raw;
+    if (!findGroup(records_[index].groups, 2, raw)) return {};
+    return text(raw);
+}
+
+uint32_t Database::findEntry(std::string_view upperTable, std::wstring_view name) const {
+    const Table* t = table(upperTable);
+    if (!t) return kNone;
+    std::wstring wanted = upperAscii(name);
+    for (uint32_t index : t->entries) {
+        if (records_[index].deleted) continue;
+        if (equalsNoCaseUpper(recordName(index), wanted)) return index;
+    }
+    return kNone;
+}
+
+uint32_t Database::findBlock(std::wstring_view name) const {
+    std::wstring wanted = upperAscii(name);
+    for (uint32_t b = 0; b < blocks_.size(); ++b) {
+        uint32_t begin = blocks_[b].begin;
+        if (begin == kNone || records_[begin].deleted) continue;
+        if (equalsNoCaseUpper(recordName(begin), wanted)) return b;
+    }
+    return kNone;
+}
+
+uint64_t Database::modelSpaceOwner() const {
+    uint32_t index = findEntry("BLOCK_RECORD", L"*Model_Space");
+    return index == kNone ? 0 : records_[index].handle;
+}
+
+uint64_t Database::blockRecordOf(uint32_t blockDef) const {
+    if (blockDef >= blocks_.size()) return 0;
+    uint32_t begin = blocks_[blockDef].begin;
+    std::string_view owner;
+    uint64_t handle = 0;
+    if (findGroup(records_[begin].groups, 330, owner) && parseHandle(owner, handle)) return handle;
+    uint32_t entry = findEntry("BLOCK_RECORD", recordName(begin));
+    return entry == kNone ? 0 : records_[entry].handle;
 }
 
 }  // namespace host::db

@@ -1,0 +1,132 @@
+// Loading a drawing from a file and saving it to one. Saving writes a temporary file beside
+// the target and renames it over the target only when every byte is written, so a failed
+// save leaves the previous file as it was.
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+
+#include "host/db/database.h"
+#include "host/db/dxf_writer.h"
+#include "host/db/save_fault.h"
+#include "host/text.h"
+
+namespace host::db {
+namespace {
+
+std::filesystem::path platformPath(const std::filesystem::path& path) {
+    std::string s = path.string();
+    for (auto& c : s)
+        if (c == '\\') c = '/';
+    return s;
+}
+
+std::wstring systemError(int err) { return fromUtf8(std::strerror(err)); }
+
+SaveFault& saveFault() {
+    static SaveFault fault;
+    return fault;
+}
+
+class FileSink : public OutputSink {
+public:
+    explicit FileSink(int fd) : fd_(fd) {}
+    bool write(std::string_view bytes) override {
+        const SaveFault& fault = saveFault();
+        if (fault && fault(written_ + bytes.size())) {
+            error_ = ENOSPC;
+            return false;
+        }
+        while (!bytes.empty()) {
+            ssize_t n = ::write(fd_, bytes.data(), bytes.size());
+            if (n < 0 && errno == EINTR) continue;
+            if (n <= 0) {
+                error_ = n < 0 ? errno : EIO;
+                return false;
+            }
+            bytes.remove_prefix(static_cast<size_t>(n));
+            written_ += static_cast<size_t>(n);
+        }
+        return true;
+    }
+    int error() const { return error_; }
+
+private:
+    int fd_;
+    size_t written_ = 0;
+    int error_ = 0;
+};
+
+}  // namespace
+
+void setSaveFault(SaveFault fault) { saveFault() = std::move(fault); }
+
+std::unique_ptr<Database> Database::load(const std::filesystem::path& given, std::wstring& error) {
+    std::filesystem::path path = platformPath(given);
+    std::error_code ec;
+    if (std::filesystem::is_directory(path, ec)) {
+        error = L"cannot open " + path.wstring() + L": it is a folder";
+        return nullptr;
+    }
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        error = L"cannot open " + path.wstring() + L": " + systemError(errno);
+        return nullptr;
+    }
+    std::string text;
+    in.seekg(0, std::ios::end);
+    auto size = in.tellg();
+    in.seekg(0, std::ios::beg);
+    if (size > 0) {
+        text.resize(static_cast<size_t>(size));
+        in.read(text.data(), size);
+    }
+    if (!in) {
+        error = L"cannot read " + path.wstring();
+        return nullptr;
+    }
+    return parse(text, path.filename().wstring(), error);
+}
+
+bool Database::save(const std::filesystem::path& given, std::wstring& error) const {
+    std::filesystem::path path = platformPath(given);
+    std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : ".";
+    std::string pattern = (folder / ("." + path.filename().string() + ".XXXXXX")).string();
+    int fd = mkstemp(pattern.data());
+    if (fd < 0) {
+        error = L"cannot save " + path.wstring() + L": " + systemError(errno);
+        return false;
+    }
+    std::string temp = pattern;
+    struct stat old{};
+    mode_t mode = 0644;
+    if (::stat(path.c_str(), &old) == 0) mode = old.st_mode & 07777;
+    ::fchmod(fd, mode);
+
+    FileSink sink(fd);
+    bool ok = writeDxf(*this, sink);
+    int err = sink.error();
+    if (ok && ::fsync(fd) != 0) {
+        ok = false;
+        err = errno;
+    }
+    if (::close(fd) != 0 && ok) {
+        ok = false;
+        err = errno;
+    }
+    if (ok && std::rename(temp.c_str(), path.c_str()) != 0) {
+        ok = false;
+        err = errno;
+    }
+    if (!ok) {
+        ::unlink(temp.c_str());
+        error = L"cannot save " + path.wstring() + L": " + systemError(err ? err : EIO) +
+                L"; the previous file is unchanged";
+    }
+    return ok;
+}
+
+}  // namespace host::db

@@ -1,0 +1,485 @@
+#include "host/db/dxf_reader.h"
+
+#include <charconv>
+#include <cstring>
+#include <unordered_set>
+
+#include "host/db/blob.h"
+#include "host/runtime/groupcodes.h"
+#include "host/text.h"
+
+namespace host::db {
+namespace {
+
+std::string_view trim(std::string_view s) {
+    while (!s.empty() && (s.front() == ' ' || s.front() == '\t')) s.remove_prefix(1);
+    while (!s.empty() && (s.back() == ' ' || s.back() == '\t')) s.remove_suffix(1);
+    return s;
+}
+
+bool parseReal(std::string_view s) {
+    s = trim(s);
+    if (!s.empty() && s.front() == '+') s.remove_prefix(1);
+    if (s.empty()) return false;
+    double v;
+    auto r = std::from_chars(s.data(), s.data() + s.size(), v);
+    return r.ec == std::errc() && r.ptr == s.data() + s.size();
+}
+
+bool parseInteger(std::string_view s) {
+    s = trim(s);
+    if (!s.empty() && s.front() == '+') s.remove_prefix(1);
+    if (s.empty()) return false;
+    long long v;
+    auto r = std::from_chars(s.data(), s.data() + s.size(), v);
+    if (r.ec == std::errc() && r.ptr == s.data() + s.size()) return true;
+    return parseReal(s);  // some writers put "1.0" where an integer belongs
+}
+
+std::wstring quoted(std::string_view raw) {
+    std::string shown(raw.substr(0, 60));
+    return L"\"" + fromUtf8(shown) + L"\"";
+}
+
+SectionKind sectionKind(std::string_view name) {
+    if (name == "HEADER") return SectionKind::Header;
+    if (name == "CLASSES") return SectionKind::Classes;
+    if (name == "TABLES") return SectionKind::Tables;
+    if (name == "BLOCKS") return SectionKind::Blocks;
+    if (name == "ENTITIES") return SectionKind::Entities;
+    if (name == "OBJECTS") return SectionKind::Objects;
+    return SectionKind::Other;
+}
+
+std::string upper(std::string_view s) {
+    std::string out(s);
+    for (auto& c : out)
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    return out;
+}
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+}  // namespace
+
+bool DxfReader::fail(size_t line, const std::wstring& what) {
+    if (error_ && error_->empty()) *error_ = source_ + L", line " + std::to_wstring(line) + L": " + what;
+    return false;
+}
+
+bool DxfReader::checkValue(const Group& g) {
+    switch (groupType(g.code)) {
+    case GroupType::Real:
+    case GroupType::Point:
+        if (parseReal(g.value)) return true;
+        break;
+    case GroupType::Short:
+    case GroupType::Long:
+        if (parseInteger(g.value)) return true;
+        break;
+    default: return true;
+    }
+    return fail(g.line + 1, L"group code " + std::to_wstring(g.code) + L" needs a number, found " +
+                                quoted(g.value));
+}
+
+bool DxfReader::next(Group& g) {
+    if (hasPending_) {
+        g = pending_;
+        hasPending_ = false;
+        return true;
+    }
+    auto nextLine = [this](std::string_view& line) {
+        if (pos_ >= text_.size()) return false;
+        const char* start = text_.data() + pos_;
+        const void* nl = std::memchr(start, '\n', text_.size() - pos_);
+        size_t len = nl ? static_cast<size_t>(static_cast<const char*>(nl) - start) : text_.size() - pos_;
+        line = std::string_view(start, len);
+        pos_ += len + (nl ? 1 : 0);
+        if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+        ++line_;
+        return true;
+    };
+    std::string_view codeLine;
+    if (!nextLine(codeLine)) return false;
+    size_t codeLineNo = line_;
+    std::string_view digits = trim(codeLine);
+    int code = 0;
+    auto r = std::from_chars(digits.data(), digits.data() + digits.size(), code);
+    if (digits.empty() || r.ec != std::errc() || r.ptr != digits.data() + digits.size() ||
+        code < -32768 || code > 32767)
+        return fail(codeLineNo, L"expected a group code, found " + quoted(codeLine));
+    if (firstCode_) {
+        firstCode_ = false;
+        db_.format().padCodes = codeLine.size() > digits.size() || code >= 100;
+    }
+    std::string_view value;
+    if (!nextLine(value))
+        return fail(codeLineNo, L"the file ends after group code " + std::to_wstring(code) +
+                                    L" without its value; it may be truncated");
+    g.code = code;
+    g.value = value;
+    g.line = codeLineNo;
+    return checkValue(g);
+}
+
+bool DxfReader::read(std::string_view text, std::wstring& error) {
+    error_ = &error;
+    error.clear();
+    if (text.substr(0, 18) == "AutoCAD Binary DXF")
+        return fail(1, L"this is a binary DXF file; only ASCII DXF drawings can be read "
+                       L"(save it as ASCII DXF)");
+    if (text.size() >= 6 && text.substr(0, 3) == "AC1" && isDigit(text[3]) && isDigit(text[4]) &&
+        isDigit(text[5]))
+        return fail(1, L"this is a DWG drawing; only ASCII DXF drawings can be read "
+                       L"(save it as DXF)");
+    if (text.substr(0, 3) == "\xEF\xBB\xBF") {
+        db_.format().bom = true;
+        text.remove_prefix(3);
+    }
+    if (trim(text).empty()) return fail(1, L"the file is empty");
+    text_ = text;
+    const char* nl = static_cast<const char*>(std::memchr(text.data(), '\n', text.size()));
+    db_.format().eol = (nl && nl > text.data() && nl[-1] == '\r') ? "\r\n" : "\n";
+
+    Group g;
+    bool sawEof = false;
+    while (error.empty() && next(g)) {
+        std::string_view word = trim(g.value);
+        if (g.code == 999) {
+            db_.comments().emplace_back(g.value);
+        } else if (g.code == 0 && word == "SECTION") {
+            if (!readSection(g)) return false;
+        } else if (g.code == 0 && word == "EOF") {
+            sawEof = true;
+            break;
+        } else {
+            return fail(g.line, L"expected \"0 SECTION\" or \"0 EOF\", found group " +
+                                    std::to_wstring(g.code) + L" " + quoted(g.value));
+        }
+    }
+    if (!error.empty()) return false;
+    if (!sawEof) return fail(line_, L"the file ends without \"0 EOF\"; it may be truncated");
+    return finish();
+}
+
+bool DxfReader::readSection(const Group& start) {
+    Group g;
+    if (!next(g) || g.code != 2)
+        return error_->empty() ? fail(start.line, L"SECTION without a name (group 2)") : false;
+    Section section;
+    section.name = std::string(trim(g.value));
+    section.kind = sectionKind(section.name);
+    bool ok = false;
+    Group end;
+    switch (section.kind) {
+    case SectionKind::Header: ok = readHeader(); break;
+    case SectionKind::Tables: ok = readTables(); break;
+    case SectionKind::Blocks: ok = readBlocks(); break;
+    case SectionKind::Entities: ok = readEntityList(db_.entities_, kNone, "ENDSEC", end); break;
+    default: ok = readRecords(section); break;
+    }
+    if (!ok) {
+        if (error_->empty())
+            fail(line_, L"the " + fromUtf8(section.name) +
+                            L" section (line " + std::to_wstring(start.line) +
+                            L") is not closed by ENDSEC; the file may be truncated");
+        return false;
+    }
+    db_.sections_.push_back(std::move(section));
+    return true;
+}
+
+bool DxfReader::readHeader() {
+    Group g;
+    size_t current = kNone;
+    while (next(g)) {
+        if (g.code == 0) {
+            if (trim(g.value) == "ENDSEC") return true;
+            return fail(g.line, L"unexpected " + quoted(g.value) + L" in the HEADER section");
+        }
+        if (g.code == 9) {
+            db_.header_.push_back(HeaderVar{std::string(trim(g.value)), {}});
+            current = db_.header_.size() - 1;
+            continue;
+        }
+        if (current == kNone)
+            return fail(g.line, L"group " + std::to_wstring(g.code) +
+                                    L" before the first variable of the HEADER section");
+        appendGroup(db_.header_[current].groups, g.code, g.value);
+    }
+    return false;
+}
+
+bool DxfReader::readRecord(const Group& start, RecordKind kind, uint32_t& index) {
+    std::string_view type = trim(start.value);
+    std::string groups;
+    uint64_t handle = 0;
+    bool haveHandle = false;
+    int handleCode = type == "DIMSTYLE" ? 105 : 5;
+    Group g;
+    while (next(g)) {
+        if (g.code == 0) {
+            pushBack(g);
+            break;
+        }
+        appendGroup(groups, g.code, g.value);
+        if (!haveHandle && (g.code == handleCode || g.code == 5))
+            haveHandle = parseHandle(g.value, handle) && handle != 0;
+    }
+    if (!error_->empty()) return false;
+    index = db_.addRecord(type, std::move(groups), kind);
+    if (haveHandle) db_.records_[index].handle = handle;
+    else missingHandles_.emplace_back(index, start.line);
+    return true;
+}
+
+bool DxfReader::readTables() {
+    Group g;
+    while (next(g)) {
+        std::string_view word = trim(g.value);
+        if (g.code == 0 && word == "ENDSEC") return true;
+        if (g.code != 0 || word != "TABLE")
+            return fail(g.line, L"expected \"0 TABLE\" or \"0 ENDSEC\" in the TABLES section, found " +
+                                    quoted(g.value));
+        size_t tableLine = g.line;
+        Table table;
+        if (!readRecord(g, RecordKind::TableHead, table.head)) return false;
+        std::string_view name;
+        if (findGroup(db_.records_[table.head].groups, 2, name)) table.name = upper(trim(name));
+        bool closed = false;
+        while (next(g)) {
+            std::string_view type = trim(g.value);
+            if (type == "ENDTAB") {
+                if (!readRecord(g, RecordKind::TableEnd, table.end)) return false;
+                closed = true;
+                break;
+            }
+            if (type == "ENDSEC" || type == "EOF" || type == "TABLE")
+                return fail(g.line, L"the table at line " + std::to_wstring(tableLine) +
+                                        L" is not closed by ENDTAB");
+            uint32_t entry;
+            if (!readRecord(g, RecordKind::TableEntry, entry)) return false;
+            table.entries.push_back(entry);
+        }
+        if (!closed) return false;
+        db_.tables_.push_back(std::move(table));
+    }
+    return false;
+}
+
+bool DxfReader::readBlocks() {
+    Group g;
+    while (next(g)) {
+        std::string_view word = trim(g.value);
+        if (g.code == 0 && word == "ENDSEC") return true;
+        if (g.code != 0 || word != "BLOCK")
+            return fail(g.line, L"expected \"0 BLOCK\" or \"0 ENDSEC\" in the BLOCKS section, found " +
+                                    quoted(g.value));
+        size_t blockLine = g.line;
+        auto b = static_cast<uint32_t>(db_.blocks_.size());
+        db_.blocks_.emplace_back();
+        uint32_t begin;
+        if (!readRecord(g, RecordKind::BlockBegin, begin)) return false;
+        db_.records_[begin].block = b;
+        db_.blocks_[b].begin = begin;
+        Group end;
+        std::vector<uint32_t> entities;
+        if (!readEntityList(entities, b, "ENDBLK", end)) {
+            if (error_->empty())
+                fail(line_, L"the BLOCK at line " + std::to_wstring(blockLine) + L" has no ENDBLK");
+            return false;
+        }
+        db_.blocks_[b].entities = std::move(entities);
+        uint32_t endIndex;
+        if (!readRecord(end, RecordKind::BlockEnd, endIndex)) return false;
+        db_.records_[endIndex].block = b;
+        db_.blocks_[b].end = endIndex;
+    }
+    return false;
+}
+
+bool DxfReader::readEntityList(std::vector<uint32_t>& into, uint32_t block, std::string_view endType,
+                               Group& end) {
+    Group g;
+    while (next(g)) {
+        std::string_view type = trim(g.value);
+        if (g.code != 0)
+            return fail(g.line, L"expected \"0\" and an entity type, found group " +
+                                    std::to_wstring(g.code));
+        if (type == endType) {
+            end = g;
+            return true;
+        }
+        if (type == "ENDSEC" || type == "EOF" || type == "SECTION" || type == "ENDBLK")
+            return fail(g.line, L"unexpected " + quoted(type) + (block == kNone ? L" in the ENTITIES section"
+                                                                                : L" inside a BLOCK"));
+        if (type == "VERTEX" || type == "ATTRIB" || type == "SEQEND")
+            return fail(g.line, fromUtf8(type) + L" does not follow a POLYLINE or INSERT");
+        uint32_t index;
+        if (!readRecord(g, RecordKind::Entity, index)) return false;
+        db_.records_[index].block = block;
+        db_.records_[index].pos = static_cast<uint32_t>(into.size());
+        into.push_back(index);
+        std::string_view follows;
+        bool polyline = type == "POLYLINE";
+        bool attributes = type == "INSERT" && findGroup(db_.records_[index].groups, 66, follows) &&
+                          trim(follows) == "1";
+        if (!polyline && !attributes) continue;
+        size_t headLine = g.line;
+        std::string_view subType = polyline ? "VERTEX" : "ATTRIB";
+        bool closed = false;
+        bool anySub = false;
+        while (next(g)) {
+            std::string_view t = trim(g.value);
+            if (t == subType || t == "SEQEND") {
+                uint32_t sub;
+                if (!readRecord(g, RecordKind::SubEntity, sub)) return false;
+                db_.records_[sub].main = index;
+                db_.records_[sub].block = block;
+                db_.records_[sub].pos = static_cast<uint32_t>(into.size());
+                into.push_back(sub);
+                anySub = true;
+                if (t == "SEQEND") {
+                    closed = true;
+                    break;
+                }
+                continue;
+            }
+            if (!polyline && !anySub) {  // an INSERT whose attributes-follow flag is wrong
+                pushBack(g);
+                closed = true;
+                break;
+            }
+            return fail(g.line, fromUtf8(type) + L" at line " + std::to_wstring(headLine) +
+                                    L" is not closed by SEQEND before " + quoted(t));
+        }
+        if (!closed) {
+            if (error_->empty())
+                fail(line_, fromUtf8(type) + L" at line " + std::to_wstring(headLine) +
+                                L" is not closed by SEQEND; the file may be truncated");
+            return false;
+        }
+    }
+    return false;
+}
+
+bool DxfReader::readRecords(Section& section) {
+    Group g;
+    RecordKind kind = section.kind == SectionKind::Objects ? RecordKind::Object : RecordKind::Other;
+    while (next(g)) {
+        std::string_view type = trim(g.value);
+        if (g.code != 0)
+            return fail(g.line, L"expected \"0\" and an object type, found group " +
+                                    std::to_wstring(g.code));
+        if (type == "ENDSEC") return true;
+        if (type == "EOF" || type == "SECTION")
+            return fail(g.line, L"the " + fromUtf8(section.name) + L" section is not closed by ENDSEC");
+        uint32_t index;
+        if (!readRecord(g, kind, index)) return false;
+        section.records.push_back(index);
+    }
+    return false;
+}
+
+void DxfReader::giveHandles() {
+    auto& records = db_.records_;
+    bool r12 = db_.isR12();
+    // A handle used twice keeps its first record; the others get new ones like the records
+    // that have none, numbered above every handle of the file.
+    std::unordered_set<uint64_t> seen;
+    seen.reserve(records.size());
+    std::vector<uint32_t> renumber;
+    for (uint32_t i = 0; i < records.size(); ++i) {
+        uint64_t h = records[i].handle;
+        if (!h) continue;
+        if (!seen.insert(h).second) {
+            records[i].handle = 0;
+            renumber.push_back(i);
+            db_.warnings_.push_back(L"handle " + fromUtf8(handleText(h)) +
+                                    L" is used more than once; a later object was given a new handle");
+        }
+        db_.noteHandle(h);
+    }
+    uint64_t seed = 0;
+    if (parseHandle(db_.headerValue("$HANDSEED", 5), seed)) db_.noteHandle(seed - (seed ? 1 : 0));
+    auto needsHandle = [&](const Record& r) {
+        switch (r.kind) {
+        case RecordKind::Entity:
+        case RecordKind::SubEntity: return true;
+        case RecordKind::BlockBegin:
+        case RecordKind::BlockEnd:
+        case RecordKind::TableHead:
+        case RecordKind::TableEntry:
+        case RecordKind::Object: return !r12;
+        default: return false;
+        }
+    };
+    bool added = false;
+    auto give = [&](uint32_t index, bool replace) {
+        Record& r = records[index];
+        if (!needsHandle(r)) return;
+        bool dimstyle = db_.typeName(r) == "DIMSTYLE" && !r12;
+        int code = dimstyle ? 105 : 5;
+        uint64_t h = db_.handseed_++;
+        std::string groups;
+        appendGroup(groups, code, handleText(h));
+        BlobCursor c(r.groups);
+        RawGroup g;
+        bool replaced = false;
+        while (c.next(g)) {
+            if (replace && !replaced && (g.code == 5 || g.code == 105)) {
+                replaced = true;
+                continue;
+            }
+            appendGroup(groups, g.code, g.value);
+        }
+        r.groups = std::move(groups);
+        r.handle = h;
+        added = true;
+    };
+    for (auto [index, line] : missingHandles_) give(index, false);
+    for (uint32_t index : renumber) give(index, true);
+    if (added && r12) {
+        std::string on;
+        appendGroup(on, 70, "1");
+        db_.setHeaderVar("$HANDLING", std::move(on));
+    }
+    uint64_t current = 0;
+    bool hasSeed = parseHandle(db_.headerValue("$HANDSEED", 5), current);
+    bool wantSeed = !r12 || added || !db_.headerValue("$HANDLING", 70).empty();
+    if (wantSeed && (!hasSeed || current < db_.handseed_)) {
+        std::string value;
+        appendGroup(value, 5, handleText(db_.handseed_));
+        db_.setHeaderVar("$HANDSEED", std::move(value));
+    }
+}
+
+bool DxfReader::finish() {
+    std::string acadver(trim(db_.headerValue("$ACADVER", 1)));
+    if (acadver.empty()) acadver = "AC1009";
+    db_.setVersion(acadver, trim(db_.headerValue("$DWGCODEPAGE", 3)));
+    size_t headerVars = db_.header_.size();
+    giveHandles();
+    // Variables the reader had to add need a HEADER section to be written in.
+    if (db_.header_.size() != headerVars) {
+        bool hasHeader = false;
+        for (const auto& s : db_.sections_) hasHeader |= s.kind == SectionKind::Header;
+        if (!hasHeader) {
+            Section header;
+            header.kind = SectionKind::Header;
+            header.name = "HEADER";
+            db_.sections_.insert(db_.sections_.begin(), std::move(header));
+            if (!db_.headerVar("$ACADVER")) {
+                std::string version;
+                appendGroup(version, 1, acadver);
+                db_.header_.insert(db_.header_.begin(), HeaderVar{"$ACADVER", std::move(version)});
+            }
+        }
+    }
+    db_.setHandlesEnabled(!db_.isR12() || !db_.headerValue("$HANDLING", 70).empty());
+    db_.indexAll();
+    return true;
+}
+
+}  // namespace host::db
