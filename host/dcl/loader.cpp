@@ -1,5 +1,6 @@
 #include "host/dcl/loader.h"
 
+#include <cwchar>
 #include <fstream>
 #include <set>
 #include <sstream>
@@ -90,7 +91,7 @@ private:
         if (!settings || settings->file.empty()) return 1;
         for (auto it = settings->body.attributes.rbegin(); it != settings->body.attributes.rend(); ++it)
             if (it->name == L"audit_level" && it->value.type == AttrValue::Type::Integer)
-                return std::stoi(it->value.text);
+                return static_cast<int>(std::wcstol(it->value.text.c_str(), nullptr, 10));
         return 1;
     }
 };

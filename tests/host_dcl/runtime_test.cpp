@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "dcl_fixture.h"
+#include "windows.h"
 
 namespace dcltest {
 namespace {
@@ -256,6 +257,68 @@ TEST_F(DclRuntime, RejectedFunctionTerminatesTheDialogs) {
     EXPECT_EQ(start(h), DLGALLDONE);
     EXPECT_TRUE(rejected);
     EXPECT_EQ(out.commandLine(), L"AutoCAD rejected function acedCommand\n");
+}
+
+}  // namespace
+}  // namespace dcltest
+
+namespace dcltest {
+namespace {
+
+class DclLifecycle : public DclTest {
+protected:
+    void SetUp() override {
+        DclTest::SetUp();
+        id = load("runtime.dcl");
+    }
+    int id = -1;
+};
+
+TEST_F(DclLifecycle, DoneBeforeStartEndsAtOnceAndLeavesTheScriptQueued) {
+    ads_hdlg h = open(id, L"main_dlg");
+    EXPECT_EQ(ads_done_dialog(h, 3), RTNORM);
+    host::queueDialogActions(L"main_dlg", {press(L"accept")});
+    EXPECT_EQ(start(h), 3);
+    EXPECT_EQ(host::pendingDialogNames(), std::vector<std::wstring>{L"main_dlg"});
+}
+
+TEST_F(DclLifecycle, UnloadingTheFileKeepsAnOpenDialogWorking) {
+    ads_hdlg h = open(id, L"main_dlg");
+    EXPECT_EQ(ads_unload_dialog(id), RTNORM);
+    EXPECT_EQ(ads_set_tile(h, L"val", L"still here"), RTNORM);
+    host::queueDialogActions(L"main_dlg", {press(L"accept")});
+    EXPECT_EQ(start(h), DLGOK);
+    EXPECT_EQ(host::dcl::lastDialog(L"main_dlg")->value(L"val"), L"still here");
+}
+
+TEST_F(DclLifecycle, UnknownKeysAndHandlesAreErrors) {
+    ads_hdlg h = open(id, L"main_dlg");
+    int data = 0;
+    EXPECT_EQ(ads_action_tile(h, L"nope", forward<0>), RTERROR);
+    EXPECT_EQ(ads_client_data_tile(h, L"nope", &data), RTERROR);
+    EXPECT_EQ(ads_set_tile(h, L"nope", L"x"), RTERROR);
+    EXPECT_EQ(ads_mode_tile(h, L"nope", MODE_DISABLE), RTERROR);
+    EXPECT_EQ(ads_set_tile(nullptr, L"val", L"x"), RTERROR);
+    ACHAR buf[8] = L"zz";
+    EXPECT_EQ(ads_get_attr_string(nullptr, const_cast<ACHAR*>(L"key"), buf, 8), RTERROR);
+    EXPECT_EQ(std::wstring(buf), L"");
+    ads_htile kept = nullptr;
+    handler(0) = [&](ads_callback_packet* p) { kept = p->tile; };
+    ads_action_tile(h, L"plain", forward<0>);
+    host::queueDialogActions(L"main_dlg", {press(L"plain")});
+    start(h);
+    ASSERT_NE(kept, nullptr);
+    EXPECT_EQ(ads_get_attr_string(kept, const_cast<ACHAR*>(L"key"), buf, 8), RTERROR);  // its dialog is gone
+}
+
+TEST_F(DclLifecycle, TermDialogOutsideADialogDiscardsDialogsNotStarted) {
+    ads_hdlg h = open(id, L"child_dlg");
+    ASSERT_NE(FindWindowW(nullptr, L"Child"), nullptr);
+    EXPECT_EQ(ads_term_dialog(), RTNORM);
+    EXPECT_EQ(FindWindowW(nullptr, L"Child"), nullptr);
+    EXPECT_EQ(ads_start_dialog(h, nullptr), RTERROR);
+    // the next dialog runs normally
+    EXPECT_EQ(start(open(id, L"child_dlg")), DLGCANCEL);
 }
 
 }  // namespace

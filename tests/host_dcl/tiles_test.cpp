@@ -37,6 +37,7 @@ TEST_F(DclTiles, DeclaredValuesAreMadeValid) {
     EXPECT_EQ(tileValue(h, L"pick"), L"0");   // a popup list shows its first item
     EXPECT_EQ(tileValue(h, L"level"), L"20"); // 25 is beyond max_value
     EXPECT_EQ(tileValue(h, L"msg"), L"Hello");
+    EXPECT_EQ(tileValue(h, L"cn"), L"\u5927\u6C14\u538B(kPa):");
     EXPECT_EQ(tileValue(h, L"go"), L"");
     EXPECT_EQ(tileValue(h, L"error"), L"");
     EXPECT_EQ(attribute(h, L"go", L"errmsg"), L"Go failed");  // a user-defined attribute

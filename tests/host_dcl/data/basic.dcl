@@ -16,6 +16,7 @@ basic : dialog {
     : popup_list { key = "pick"; list = "x\ny"; }
     : slider { key = "level"; min_value = 10; max_value = 20; value = "25"; }
     : text { key = "msg"; label = "Hello"; }
+    : text { key = "cn"; label = "大气压(kPa):"; }   // UTF-8 text
     : image { key = "pic"; width = 10; height = 4; color = -2; }
     : image_button { key = "ibtn"; width = 5; aspect_ratio = 0.5; }
     : edit12_box { key = "wide"; }
