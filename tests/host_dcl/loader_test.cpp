@@ -48,6 +48,11 @@ TEST_F(DclLoad, AuditErrorsRefuseTheFile) {
               line("errors/include.dcl", 1, L"cannot find the included file \"nowhere.dcl\""));
 }
 
+TEST_F(DclLoad, AProblemInAnIncludedFileNamesThatFile) {
+    EXPECT_EQ(refused("inc/broken_parent.dcl"),
+              line("inc/broken_child.dcl", 2, L"a digit must follow the decimal point"));
+}
+
 TEST_F(DclLoad, EveryProblemOfAFileIsReported) {
     EXPECT_EQ(refused("errors/several.dcl"),
               line("errors/several.dcl", 1, L"undefined tile 'nothing_here'") +

@@ -323,3 +323,52 @@ TEST_F(DclLifecycle, TermDialogOutsideADialogDiscardsDialogsNotStarted) {
 
 }  // namespace
 }  // namespace dcltest
+
+#include "host/runtime/host.h"
+
+namespace dcltest {
+namespace {
+
+short variable(const wchar_t* name) {
+    const host::SysVarValue* v = host::Host::instance().current().sysvars().find(name);
+    return v ? v->integer : -1;
+}
+
+class DclDocument : public DclLifecycle {
+protected:
+    void SetUp() override {
+        DclLifecycle::SetUp();
+        host::Host::instance().openDocument(L"");
+    }
+    void TearDown() override {
+        host::Host::instance().closeAllDocuments();
+        DclLifecycle::TearDown();
+    }
+};
+
+TEST_F(DclDocument, CmdactiveShowsAnOpenDialogAndDiastatTheOutcome) {
+    short during = -1;
+    handler(0) = [&](ads_callback_packet*) { during = variable(L"CMDACTIVE"); };
+    ads_hdlg h = open(id, L"main_dlg");
+    ads_action_tile(h, L"plain", forward<0>);
+    host::queueDialogActions(L"main_dlg", {press(L"plain"), press(L"accept")});
+    EXPECT_EQ(start(h), DLGOK);
+    EXPECT_EQ(during & 8, 8);
+    EXPECT_EQ(variable(L"CMDACTIVE") & 8, 0);
+    EXPECT_EQ(variable(L"DIASTAT"), 1);
+    EXPECT_EQ(start(open(id, L"main_dlg")), DLGCANCEL);
+    EXPECT_EQ(variable(L"DIASTAT"), 0);
+}
+
+TEST_F(DclDocument, RejectedFunctionSetsErrno) {
+    handler(0) = [](ads_callback_packet*) { host::dcl::rejectWhileDialogOpen(L"acedGetPoint"); };
+    ads_hdlg h = open(id, L"main_dlg");
+    ads_action_tile(h, L"plain", forward<0>);
+    host::queueDialogActions(L"main_dlg", {press(L"plain")});
+    host::OutputCapture quiet;
+    EXPECT_EQ(start(h), DLGALLDONE);
+    EXPECT_EQ(variable(L"ERRNO"), 85);
+}
+
+}  // namespace
+}  // namespace dcltest

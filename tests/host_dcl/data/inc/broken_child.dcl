@@ -1,0 +1,3 @@
+child_proto : button {
+    width = 3.;
+}
