@@ -17,9 +17,11 @@ struct Auditor {
 
     void visit(const Tile& tile, const Tile* parent) {
         std::wstring key = tile.key();
-        if (isActive(tile.kind) && key.empty())
-            report(tile, L"active tile '" + tile.type + L"' (" + std::wstring(kindName(tile.kind)) +
-                             L") has no key");
+        if (isActive(tile.kind) && key.empty()) {
+            std::wstring kind(kindName(tile.kind));
+            std::wstring what = tile.type == kind ? L"'" + kind + L"'" : L"'" + tile.type + L"' (" + kind + L")";
+            report(tile, L"active tile " + what + L" has no key");
+        }
         if (!key.empty() && !keys.insert(key).second)
             report(tile, L"key \"" + key + L"\" is used more than once in dialog '" + dialog.type + L"'");
         if (tile.kind == TileKind::RadioButton && (!parent || parent->kind != TileKind::RadioCluster))

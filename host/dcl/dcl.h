@@ -16,6 +16,19 @@
 // An action on a missing, disabled or unsuitable tile prints one line
 // `Dialog "NAME": PROBLEM; ACTION skipped` and is skipped. When the batch runs out, or when
 // nothing is queued, the dialog is cancelled: start_dialog gives DLGCANCEL and no callback runs.
+//
+// Loading: a file that does not parse or fails the audit (undefined tile, circular definition,
+// changed subassembly, active tile without a key, key used twice, radio button outside a radio
+// cluster) is refused; each problem is printed as "DCL error in FILE line N: MESSAGE".
+// `audit_level = 0` in dcl_settings turns off the audit checks but not undefined or circular
+// tiles, without which no dialog can be built.
+//
+// Choices of this host where the editor's behaviour is not documented: edit_limit cuts what the
+// user types, not what the program sets, and is not capped at 256 (edit32_box asks for 2048);
+// a LIST_NEW list starts with no selection, and a popup list with items shows item 0; the
+// dialog's default callback runs for accept and cancel too, which then still end the dialog
+// unless the callback did; done_dialog before start_dialog makes the start end at once
+// without using the queued actions.
 #pragma once
 
 #include <filesystem>

@@ -37,7 +37,7 @@ TEST_F(DclLoad, AuditErrorsRefuseTheFile) {
     EXPECT_EQ(refused("errors/undefined.dcl"), line("errors/undefined.dcl", 3, L"undefined tile 'fancy_button'"));
     EXPECT_EQ(refused("errors/circular.dcl"), line("errors/circular.dcl", 3, L"circular definition of tile 'loop_a'"));
     EXPECT_EQ(refused("errors/self.dcl"), line("errors/self.dcl", 6, L"circular definition of tile 'self_row'"));
-    EXPECT_EQ(refused("errors/nokey.dcl"), line("errors/nokey.dcl", 3, L"active tile 'toggle' (toggle) has no key"));
+    EXPECT_EQ(refused("errors/nokey.dcl"), line("errors/nokey.dcl", 3, L"active tile 'toggle' has no key"));
     EXPECT_EQ(refused("errors/subassembly.dcl"),
               line("errors/subassembly.dcl", 3, L"the subassembly 'ok_cancel' cannot be changed; use it as 'ok_cancel;'"));
     EXPECT_EQ(refused("errors/dupkey.dcl"),
@@ -56,7 +56,7 @@ TEST_F(DclLoad, AProblemInAnIncludedFileNamesThatFile) {
 TEST_F(DclLoad, EveryProblemOfAFileIsReported) {
     EXPECT_EQ(refused("errors/several.dcl"),
               line("errors/several.dcl", 1, L"undefined tile 'nothing_here'") +
-                  line("errors/several.dcl", 2, L"active tile 'button' (button) has no key"));
+                  line("errors/several.dcl", 2, L"active tile 'button' has no key"));
 }
 
 TEST_F(DclLoad, MissingFile) {

@@ -1,6 +1,7 @@
 // The DCL language: tokens, grammar, inheritance and the standard prototypes.
 #include <gtest/gtest.h>
 
+#include "host/dcl/audit.h"
 #include "host/dcl/base_prototypes.h"
 #include "host/dcl/expander.h"
 #include "host/dcl/library.h"
@@ -255,6 +256,42 @@ TEST(DclBase, ListBoxAndDialogDefaults) {
     EXPECT_EQ(findKey(*d, L"l")->attr(L"height"), L"10");
     EXPECT_EQ(findKey(*d, L"e")->attr(L"edit_limit"), L"2048");
     EXPECT_EQ(findKey(*d, L"e")->kind, TileKind::EditBox);
+}
+
+
+std::vector<std::wstring> auditMessages(std::wstring_view text) {
+    Expansion x(text);
+    auto d = x.build(L"d");
+    EXPECT_TRUE(d);
+    std::vector<std::wstring> out;
+    if (d) auditDialog(*d, x.problems);
+    for (const auto& p : x.problems) out.push_back(std::to_wstring(p.line) + L": " + p.message);
+    return out;
+}
+
+TEST(DclAudit, ActiveTilesNeedKeys) {
+    EXPECT_EQ(auditMessages(L"my_button : button { label = \"x\"; }\n"
+                            L"d : dialog {\n : my_button { }\n : my_button { key = \"k\"; }\n : text { }\n"
+                            L" : slider { }\n ok_cancel; }\n"),
+              (std::vector<std::wstring>{L"3: active tile 'my_button' (button) has no key",
+                                         L"6: active tile 'slider' has no key"}));
+}
+
+TEST(DclAudit, KeysAreUniqueAndRadioButtonsSitInRadioClusters) {
+    EXPECT_EQ(auditMessages(L"d : dialog {\n"
+                            L" : radio_row { key = \"r\"; : radio_button { key = \"a\"; } }\n"
+                            L" : boxed_row { : radio_button { key = \"b\"; } }\n"
+                            L" : toggle { key = \"a\"; }\n"
+                            L" ok_only; ok_cancel; }\n"),
+              (std::vector<std::wstring>{L"3: radio_button \"b\" is not inside a radio_row or radio_column",
+                                         L"4: key \"a\" is used more than once in dialog 'd'",
+                                         L"1: key \"accept\" is used more than once in dialog 'd'"}));
+}
+
+TEST(DclAudit, StandardSubassembliesPass) {
+    EXPECT_TRUE(auditMessages(L"d : dialog { : boxed_radio_column { key = \"c\"; : radio_button { key = \"x\"; } }\n"
+                              L" : icon_image { key = \"i\"; } image_block; ok_cancel_help_errtile; }\n")
+                    .empty());
 }
 
 }  // namespace
