@@ -69,6 +69,7 @@ enum class SectionKind { Header, Classes, Tables, Blocks, Entities, Objects, Oth
 struct Section {
     SectionKind kind = SectionKind::Other;
     std::string name;
+    std::string head;               // groups between the name and the first record
     std::vector<uint32_t> records;  // Classes, Objects and Other sections
 };
 

@@ -170,6 +170,12 @@ bool DxfReader::readSection(const Group& start) {
     Section section;
     section.name = std::string(trim(g.value));
     section.kind = sectionKind(section.name);
+    if (section.kind != SectionKind::Header) {
+        // Some sections (THUMBNAILIMAGE) hold groups of their own before any record.
+        while (next(g) && g.code != 0) appendGroup(section.head, g.code, g.value);
+        if (!error_->empty()) return false;
+        if (g.code == 0) pushBack(g);
+    }
     bool ok = false;
     Group end;
     switch (section.kind) {

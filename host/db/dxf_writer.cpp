@@ -21,6 +21,11 @@ public:
         for (const auto& s : db_.sections()) {
             group(0, "SECTION");
             group(2, s.name);
+            {
+                BlobCursor c(s.head);
+                RawGroup g;
+                while (c.next(g)) group(g.code, g.value);
+            }
             switch (s.kind) {
             case SectionKind::Header: header(); break;
             case SectionKind::Tables: tables(); break;
