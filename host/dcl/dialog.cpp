@@ -71,7 +71,7 @@ void Dialog::showText(int index) {
 }
 
 ads_htile Dialog::tileHandle(int index) const {
-    return reinterpret_cast<ads_htile>((serial_ << 20) | static_cast<std::uintptr_t>(index + 1));
+    return reinterpret_cast<ads_htile>((serial_ << kTileIndexBits) | static_cast<std::uintptr_t>(index + 1));
 }
 
 int Dialog::find(std::wstring_view key) const {

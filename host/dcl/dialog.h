@@ -13,6 +13,9 @@
 
 namespace host::dcl {
 
+// A tile handle holds its dialog's serial number above this many bits and its index + 1 below.
+constexpr int kTileIndexBits = 20;
+
 struct RuntimeTile {
     const Tile* source = nullptr;  // kind, type and declared attributes
     std::wstring key;

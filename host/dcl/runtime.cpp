@@ -61,8 +61,8 @@ Dialog* Runtime::dialog(ads_hdlg handle) {
 
 TileRef Runtime::tile(ads_htile handle) {
     auto bits = reinterpret_cast<std::uintptr_t>(handle);
-    auto it = dialogs_.find(bits >> 20);
-    int index = static_cast<int>(bits & 0xFFFFF) - 1;
+    auto it = dialogs_.find(bits >> kTileIndexBits);
+    int index = static_cast<int>(bits & ((std::uintptr_t{1} << kTileIndexBits) - 1)) - 1;
     if (it == dialogs_.end() || index < 0 || index >= it->second->tileCount()) return {};
     return {it->second.get(), index};
 }

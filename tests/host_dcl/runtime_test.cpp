@@ -118,6 +118,20 @@ TEST_F(DclRuntime, ActionPriorityDefaultThenDclActionThenActionTile) {
     EXPECT_TRUE(host::dcl::lastDialog(L"main_dlg")->lispActions.empty());
 }
 
+TEST_F(DclRuntime, DefaultCallbackRunsForExitButtonsWhichStillEndTheDialog) {
+    std::vector<std::wstring> keys;
+    handler(0) = [&](ads_callback_packet* p) { keys.push_back(keyOf(p)); };
+    host::queueDialogActions(L"main_dlg", {press(L"accept")});
+    EXPECT_EQ(start(open(id, L"main_dlg", forward<0>)), DLGOK);
+    host::queueDialogActions(L"main_dlg", {press(L"cancel")});
+    EXPECT_EQ(start(open(id, L"main_dlg", forward<0>)), DLGCANCEL);
+    EXPECT_EQ(keys, (std::vector<std::wstring>{L"accept", L"cancel"}));
+    // a default callback that ends the dialog itself decides the status
+    handler(0) = [](ads_callback_packet* p) { ads_done_dialog(p->dialog, 5); };
+    host::queueDialogActions(L"main_dlg", {press(L"accept")});
+    EXPECT_EQ(start(open(id, L"main_dlg", forward<0>)), 5);
+}
+
 TEST_F(DclRuntime, DclActionsGoToTheEvaluatorWhenOneIsInstalled) {
     std::vector<host::dcl::LispActionCall> calls;
     host::dcl::setLispActionHook([&](const host::dcl::LispActionCall& c) { calls.push_back(c); });
