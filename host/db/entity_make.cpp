@@ -58,6 +58,12 @@ short parseList(const Database& db, const resbuf* rb, Parsed& out) {
     return 0;
 }
 
+// Types that came after R12: an R12 drawing cannot hold them.
+bool inR12(std::string_view type) {
+    return type != "LWPOLYLINE" && type != "MTEXT" && type != "ELLIPSE" && type != "SPLINE" &&
+           type != "XLINE" && type != "RAY";
+}
+
 short checkRequired(const EntitySchema& schema, const GroupList& data) {
     for (int code : schema.required) {
         if (findCode(data, code)) continue;
@@ -168,6 +174,7 @@ void commitToSpace(Database& db, const std::vector<DraftRecord>& drafts, bool pa
         state.blockEntities.insert(state.blockEntities.end(), drafts.begin(), drafts.end());
         return;
     }
+    ensureSection(db, SectionKind::Entities);
     commitDrafts(db, drafts, db.entities(), kNone, paper ? paperSpaceOwner(db) : db.modelSpaceOwner());
 }
 
@@ -191,6 +198,7 @@ int commitBlock(Database& db, const DraftRecord& end) {
         if (def.end != kNone) db.record(def.end).deleted = true;
         for (uint32_t e : def.entities) db.record(e).deleted = true;
     }
+    ensureSection(db, SectionKind::Blocks);
     uint64_t owner = 0;
     if (!db.isR12()) {
         uint32_t entry = db.findEntry("BLOCK_RECORD", blockName);
@@ -226,7 +234,7 @@ int makeEntity(Database& db, const resbuf* list) {
     Parsed p;
     if (short err = parseList(db, list, p)) return reject(err);
     const EntitySchema* schema = entitySchema(p.type);
-    if (!schema) return reject(kErrBadEntityType);
+    if (!schema || (db.isR12() && !inR12(p.type))) return reject(kErrBadEntityType);
     EntMakeState& state = db.entMakeState();
     bool isSub = p.type == "VERTEX" || p.type == "ATTRIB" || p.type == "SEQEND";
     if (!isSub && !state.complex.empty()) state.clearComplex();  // an unfinished one is dropped

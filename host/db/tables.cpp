@@ -28,21 +28,51 @@ const char* entrySubclass(std::string_view table) {
     return nullptr;
 }
 
-void ensureTablesSection(Database& db) {
-    auto& sections = db.sections();
-    for (const auto& s : sections)
-        if (s.kind == SectionKind::Tables) return;
-    size_t at = 0;
-    while (at < sections.size() &&
-           (sections[at].kind == SectionKind::Header || sections[at].kind == SectionKind::Classes))
-        ++at;
-    Section s;
-    s.kind = SectionKind::Tables;
-    s.name = "TABLES";
-    sections.insert(sections.begin() + static_cast<long>(at), std::move(s));
+int sectionRank(SectionKind kind) {
+    switch (kind) {
+    case SectionKind::Header: return 0;
+    case SectionKind::Classes: return 1;
+    case SectionKind::Tables: return 2;
+    case SectionKind::Blocks: return 3;
+    case SectionKind::Entities: return 4;
+    case SectionKind::Objects: return 5;
+    default: return 6;
+    }
+}
+
+const char* sectionName(SectionKind kind) {
+    switch (kind) {
+    case SectionKind::Header: return "HEADER";
+    case SectionKind::Classes: return "CLASSES";
+    case SectionKind::Tables: return "TABLES";
+    case SectionKind::Blocks: return "BLOCKS";
+    case SectionKind::Entities: return "ENTITIES";
+    case SectionKind::Objects: return "OBJECTS";
+    default: return "";
+    }
+}
+
+// Linetype Continuous, which new layers use.
+void ensureContinuous(Database& db) {
+    if (db.findEntry("LTYPE", L"Continuous") != kNone) return;
+    addTableEntry(db, "LTYPE",
+                  {stringGroup(2, db.isR12() ? L"CONTINUOUS" : L"Continuous"), intGroup(70, 0),
+                   stringGroup(3, L"Solid line"), intGroup(72, 65), intGroup(73, 0), realGroup(40, 0.0)});
 }
 
 }  // namespace
+
+void ensureSection(Database& db, SectionKind kind) {
+    auto& sections = db.sections();
+    for (const auto& s : sections)
+        if (s.kind == kind) return;
+    size_t at = 0;
+    while (at < sections.size() && sectionRank(sections[at].kind) < sectionRank(kind)) ++at;
+    Section s;
+    s.kind = kind;
+    s.name = sectionName(kind);
+    sections.insert(sections.begin() + static_cast<long>(at), std::move(s));
+}
 
 bool validSymbolName(std::wstring_view name) {
     if (name.empty() || name.size() > 255) return false;
@@ -69,7 +99,7 @@ bool isByName(std::wstring_view name) {
 
 Table& ensureTable(Database& db, std::string_view upperName) {
     if (Table* t = db.table(upperName)) return *t;
-    ensureTablesSection(db);
+    ensureSection(db, SectionKind::Tables);
     std::string head;
     appendGroup(head, 2, upperName);
     uint64_t handle = 0;
@@ -115,8 +145,9 @@ uint32_t ensureLayer(Database& db, std::wstring_view name) {
     uint32_t index = db.findEntry("LAYER", name);
     if (index != kNone) return index;
     if (!validSymbolName(name)) return kNone;
+    ensureContinuous(db);
     GroupList fields{stringGroup(2, std::wstring(name)), intGroup(70, 0), intGroup(62, 7),
-                     stringGroup(6, L"Continuous")};
+                     stringGroup(6, db.isR12() ? L"CONTINUOUS" : L"Continuous")};
     if (!db.isR12()) fields.push_back(intGroup(370, -3));
     return addTableEntry(db, "LAYER", fields);
 }

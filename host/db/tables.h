@@ -15,6 +15,8 @@ bool validSymbolName(std::wstring_view name);
 // Application names: 1 to 31 characters, letters, digits, $, - and _.
 bool validAppName(std::wstring_view name);
 
+// The section, made empty in its place among the others when the drawing has none.
+void ensureSection(Database& db, SectionKind kind);
 // The table, made (with a TABLES section when there is none) when the drawing has none.
 Table& ensureTable(Database& db, std::string_view upperName);
 // Adds an entry with its fields (name first); drawings of R13 and later get the handle,
