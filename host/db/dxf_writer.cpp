@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "host/db/blob.h"
+#include "host/db/header_sync.h"
 
 namespace host::db {
 namespace {
@@ -13,6 +14,7 @@ class Writer {
 public:
     Writer(const Database& db, OutputSink& sink) : db_(db), sink_(sink), eol_(db.format().eol) {
         buffer_.reserve(kChunk + 4096);
+        if (db.sysvars()) changes_ = changesToSave(db, *db.sysvars());
     }
 
     bool run() {
@@ -66,7 +68,11 @@ private:
         const Record& r = db_.record(index);
         if (r.deleted) return;
         group(0, db_.typeName(r));
-        BlobCursor c(r.groups);
+        auto changed = changes_.records.find(index);
+        groups(changed == changes_.records.end() ? std::string_view(r.groups) : changed->second);
+    }
+    void groups(std::string_view blob) {
+        BlobCursor c(blob);
         RawGroup g;
         while (c.next(g)) group(g.code, g.value);
     }
@@ -76,9 +82,12 @@ private:
     void header() {
         for (const auto& v : db_.header()) {
             group(9, v.name);
-            BlobCursor c(v.groups);
-            RawGroup g;
-            while (c.next(g)) group(g.code, g.value);
+            auto changed = changes_.header.find(v.name);
+            groups(changed == changes_.header.end() ? std::string_view(v.groups) : changed->second);
+        }
+        for (const auto& [name, blob] : changes_.added) {
+            group(9, name);
+            groups(blob);
         }
     }
     void tables() {
@@ -104,6 +113,7 @@ private:
     std::string eol_;
     std::string buffer_;
     bool ok_ = true;
+    SaveOverrides changes_;
 };
 
 class StringSink : public OutputSink {
