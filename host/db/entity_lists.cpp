@@ -30,6 +30,7 @@ resbuf* entityList(const Database& db, uint32_t index, const std::vector<std::ws
     const Record& r = db.record(index);
     GroupList data, xdata;
     decodeGroups(db, r.groups, data, apps ? &xdata : nullptr);
+    toListForm(db.typeName(r), data);
     RbPtr head(newRb(-1));
     if (!head) return nullptr;
     db.nameOf(index, head->resval.rlname);

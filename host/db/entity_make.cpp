@@ -264,6 +264,7 @@ int makeEntity(Database& db, const resbuf* list) {
         if (!findCode(p.data, 10)) p.data.push_back(pointGroup(10, origin));
     }
     if (p.type == "LWPOLYLINE") orderLwpolyline(p.data);
+    toFileForm(p.type, p.data);
     if (short err = checkRequired(*schema, p.data)) return reject(err);
     if (short err = checkProperties(db, p.type, p.data)) return reject(err);
     if (short err = checkXdata(db, p.xdata)) return reject(err);

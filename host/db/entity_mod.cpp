@@ -179,6 +179,7 @@ int modifyEntity(Database& db, const resbuf* list) {
 
     GroupList data, xdata;
     decodeGroups(db, r.groups, data, &xdata);
+    toListForm(type, data);
     GroupList changed;
     for (const auto& g : given) {
         const Group* old = nullptr;
@@ -200,6 +201,7 @@ int modifyEntity(Database& db, const resbuf* list) {
         }
     }
     mergeData(data, given, schema, flags, type == "LWPOLYLINE");
+    toFileForm(type, data);
     if (short err = mergeXdata(db, xdata, givenX)) return fail(err, RTREJ);
     std::string blob;
     encodeGroups(db, data, blob);

@@ -230,6 +230,30 @@ Group refGroup(int code, uint64_t handle) {
     return g;
 }
 
+bool isAngleGroup(std::string_view type, int code) {
+    if (code < 50 || code > 53) return false;
+    if (type == "ARC" || type == "TEXT" || type == "ATTDEF" || type == "ATTRIB" || type == "SHAPE")
+        return code == 50 || code == 51;
+    if (type == "INSERT" || type == "POINT" || type == "VERTEX" || type == "STYLE" || type == "VIEW")
+        return code == 50;
+    if (type == "VPORT") return code == 50 || code == 51;
+    if (type == "DIMENSION") return true;
+    if (type == "HATCH") return code == 52 || code == 53;
+    return false;
+}
+
+void toListForm(std::string_view type, GroupList& groups) {
+    constexpr double kRadians = 3.14159265358979323846 / 180.0;
+    for (auto& g : groups)
+        if (g.type == GroupType::Real && isAngleGroup(type, g.code)) g.real *= kRadians;
+}
+
+void toFileForm(std::string_view type, GroupList& groups) {
+    constexpr double kDegrees = 180.0 / 3.14159265358979323846;
+    for (auto& g : groups)
+        if (g.type == GroupType::Real && isAngleGroup(type, g.code) && !g.hasRaw) g.real *= kDegrees;
+}
+
 const Group* findCode(const GroupList& groups, int code) {
     for (const auto& g : groups)
         if (g.code == code) return &g;

@@ -54,6 +54,13 @@ bool isPointCode(int code);
 // added to whole numbers.
 std::string realText(double v);
 
+// Angles are degrees in the file and radians in entity lists (ARC start and end, TEXT and
+// INSERT rotation, oblique angles, STYLE oblique ...). These convert a record's groups of the
+// given type between the two; a group that keeps its file text is written from that text.
+bool isAngleGroup(std::string_view type, int code);
+void toListForm(std::string_view type, GroupList& groups);
+void toFileForm(std::string_view type, GroupList& groups);
+
 // The first group with the code, or null.
 const Group* findCode(const GroupList& groups, int code);
 Group* findCode(GroupList& groups, int code);

@@ -10,7 +10,9 @@
 namespace host::db {
 namespace {
 
-enum class Kind { Short, Real, String, Point2, Point3, Color };
+constexpr double kDegrees = 180.0 / 3.14159265358979323846;
+
+enum class Kind { Short, Real, Angle, String, Point2, Point3, Color };
 
 struct Mapping {
     const wchar_t* sysvar;
@@ -24,7 +26,7 @@ const Mapping kMappings[] = {
     {L"CELTYPE", "$CELTYPE", 6, Kind::String},      {L"TEXTSTYLE", "$TEXTSTYLE", 7, Kind::String},
     {L"TEXTSIZE", "$TEXTSIZE", 40, Kind::Real},     {L"LUNITS", "$LUNITS", 70, Kind::Short},
     {L"LUPREC", "$LUPREC", 70, Kind::Short},        {L"AUNITS", "$AUNITS", 70, Kind::Short},
-    {L"AUPREC", "$AUPREC", 70, Kind::Short},        {L"ANGBASE", "$ANGBASE", 50, Kind::Real},
+    {L"AUPREC", "$AUPREC", 70, Kind::Short},        {L"ANGBASE", "$ANGBASE", 50, Kind::Angle},
     {L"ANGDIR", "$ANGDIR", 70, Kind::Short},        {L"DIMZIN", "$DIMZIN", 70, Kind::Short},
     {L"UNITMODE", "$UNITMODE", 70, Kind::Short},    {L"INSUNITS", "$INSUNITS", 70, Kind::Short},
     {L"MEASUREMENT", "$MEASUREMENT", 70, Kind::Short}, {L"PDMODE", "$PDMODE", 70, Kind::Short},
@@ -71,6 +73,7 @@ Group fromSysVar(const Mapping& m, const SysVarValue& v) {
     switch (m.kind) {
     case Kind::Short: return intGroup(m.code, v.integer);
     case Kind::Real: return realGroup(m.code, v.real);
+    case Kind::Angle: return realGroup(m.code, v.real * kDegrees);
     case Kind::String: return stringGroup(m.code, v.text);
     case Kind::Color: return intGroup(m.code, colourNumber(v.text));
     case Kind::Point2: return pointGroup(m.code, v.point, 2);
@@ -85,6 +88,7 @@ void toSysVar(const Mapping& m, const Group& g, SysVars& vars) {
     switch (m.kind) {
     case Kind::Short: vars.setShort(m.sysvar, static_cast<short>(g.integer), readOnly); break;
     case Kind::Real: vars.setReal(m.sysvar, g.real, readOnly); break;
+    case Kind::Angle: vars.setReal(m.sysvar, g.real / kDegrees, readOnly); break;
     case Kind::String: vars.setString(m.sysvar, g.text, readOnly); break;
     case Kind::Color: vars.setString(m.sysvar, colourText(g.integer), readOnly); break;
     case Kind::Point2:

@@ -292,6 +292,7 @@ bool SelectionFilter::matches(const Database& db, uint32_t index) const {
     if (needsData_ || needsXdata_) {
         GroupList xdata;
         decodeGroups(db, r.groups, v.data, needsXdata_ ? &xdata : nullptr);
+        toListForm(db.typeName(r), v.data);
         for (const auto& g : xdata)
             if (g.code == 1001) v.apps.push_back(g.text);
     }

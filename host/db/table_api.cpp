@@ -40,6 +40,7 @@ bool isLayoutBlock(const std::wstring& name) {
 resbuf* entryList(const Database& db, std::wstring_view table, uint32_t record, uint32_t block) {
     GroupList data;
     decodeGroups(db, db.record(record).groups, data, nullptr);
+    toListForm(db.typeName(db.record(record)), data);
     RbPtr head(newStringRb(0, table));
     if (!head) return nullptr;
     resbuf** tail = &head->rbnext;

@@ -332,3 +332,27 @@ TEST_F(EntityFunctions, TblSearchIgnoresCaseAndTblNextWalks) {
 
 }  // namespace
 }  // namespace dbtest
+
+namespace dbtest {
+namespace {
+
+TEST_F(EntityFunctions, AnglesAreRadiansInListsAndDegreesInTheFile) {
+    const double c[3] = {0, 0, 0};
+    host::RbPtr arc(acutBuildList(RTDXF0, L"ARC", 10, c, 40, 1.0, 50, 0.7853981633974483, 51,
+                                  3.141592653589793, 0));
+    ASSERT_EQ(acdbEntMake(arc.get()), RTNORM);
+    ads_name e;
+    last(e);
+    host::RbPtr list = get(e);
+    EXPECT_DOUBLE_EQ(find(list.get(), 50)->resval.rreal, 0.7853981633974483);
+    std::string file = db().dxfText();
+    EXPECT_NE(file.find("AcDbArc\r\n 50\r\n45.0\r\n 51\r\n180.0\r\n"), std::string::npos);
+    // Writing the list back unchanged keeps the file's text of every group.
+    ASSERT_EQ(acdbEntMod(list.get()), RTNORM);
+    EXPECT_EQ(db().dxfText(), file);
+    host::RbPtr style(acdbTblSearch(L"STYLE", L"Standard", 0));
+    EXPECT_EQ(find(style.get(), 50)->resval.rreal, 0.0);
+}
+
+}  // namespace
+}  // namespace dbtest

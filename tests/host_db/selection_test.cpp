@@ -219,9 +219,10 @@ protected:
         const double left[3] = {50, 100, 0}, right[3] = {150, 100, 0};
         donut_ = make(acutBuildList(RTDXF0, L"LWPOLYLINE", 90, 2, 70, 1, 43, 50.0, 10, left, 42, 1.0, 10,
                                     right, 42, 1.0, 0));
-        // An arc centred at (0,100), radius 10, from 0 to 90 degrees: its ends (10,100), (0,110).
+        // An arc centred at (0,100), radius 10, from 0 to 90 degrees (given in radians): its ends
+        // (10,100), (0,110).
         const double ac[3] = {0, 100, 0};
-        arc_ = make(acutBuildList(RTDXF0, L"ARC", 10, ac, 40, 10.0, 50, 0.0, 51, 90.0, 0));
+        arc_ = make(acutBuildList(RTDXF0, L"ARC", 10, ac, 40, 10.0, 50, 0.0, 51, 1.5707963267948966, 0));
     }
     static resbuf* points(std::initializer_list<std::array<double, 3>> pts) {
         resbuf* head = nullptr;

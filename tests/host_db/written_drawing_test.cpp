@@ -43,7 +43,7 @@ protected:
         make(acutBuildList(RTDXF0, L"LINE", 8, L"风管", 10, a, 11, b, -3, 1001, L"STARTP", 1010, a, 1000,
                            L"送风 DN100", 1070, 7, 1071, 123456L, 1005, L"1F", 0));
         make(acutBuildList(RTDXF0, L"CIRCLE", 10, c, 40, 5.0, 0));
-        make(acutBuildList(RTDXF0, L"ARC", 10, c, 40, 8.0, 50, 0.0, 51, 90.0, 0));
+        make(acutBuildList(RTDXF0, L"ARC", 10, c, 40, 8.0, 50, 0.0, 51, 1.5707963267948966, 0));
         make(acutBuildList(RTDXF0, L"TEXT", 10, c, 40, 3.5, 1, L"送风管 %%c100", 72, 1, 73, 2, 11, c, 0));
         make(acutBuildList(RTDXF0, L"POINT", 10, b, 0));
         make(acutBuildList(RTDXF0, L"SOLID", 10, o, 11, a, 12, b, 13, c, 0));
