@@ -1,0 +1,303 @@
+// BREAK: an object (picked at a point, which is then the first break point, or given by
+// name), then the second break point, or First and both points. Points off the object are
+// taken to the nearest point on it. Lines, arcs and polylines keep what lies before the first
+// point and after the second; a circle becomes the arc from the second point counter-
+// clockwise to the first; a closed polyline becomes one open polyline from the second point
+// onward through its first vertex to the first point. A closed object cannot be broken at a
+// single point. The piece at the object's start keeps its handle (lines, arcs, light-weight
+// polylines); other pieces are new entities with the same properties and extended data. An
+// old-style polyline is replaced by new polylines. An object given by name without First is
+// broken at the second point alone.
+#include <cmath>
+#include <vector>
+
+#include "acdbads.h"
+#include "acutads.h"
+#include "adscodes.h"
+#include "host/commands/break_geometry.h"
+#include "host/commands/object_selection.h"
+
+namespace host::cmd {
+namespace {
+
+constexpr double kTwoPi = 6.283185307179586;
+
+bool has(const std::vector<int>& codes, int code) {
+    for (int c : codes)
+        if (c == code) return true;
+    return false;
+}
+
+// A copy of an entity list for acdbEntMake: without its name and the groups of the codes
+// given (extended data kept).
+RbPtr copyFor(const resbuf* list, const std::vector<int>& drop) {
+    resbuf* head = nullptr;
+    resbuf** tail = &head;
+    bool xdata = false;
+    for (const resbuf* rb = list; rb; rb = rb->rbnext) {
+        xdata |= rb->restype == -3;
+        if (rb->restype == -1 || (!xdata && has(drop, rb->restype))) continue;
+        *tail = copyNode(rb);
+        tail = &(*tail)->rbnext;
+    }
+    return RbPtr(head);
+}
+
+// Puts more right after the type group (group 0) of list.
+void insertAfterType(resbuf* list, resbuf* more) {
+    if (!more) return;
+    resbuf* last = more;
+    while (last->rbnext) last = last->rbnext;
+    last->rbnext = list->rbnext;
+    list->rbnext = more;
+}
+
+void setType(resbuf* list, const wchar_t* type) {
+    std::free(list->resval.rstring);
+    list->resval.rstring = copyString(type);
+}
+
+struct Entity {
+    Name name;
+    RbPtr list;  // with extended data
+    std::wstring type;
+    bool flipped = false;  // object coordinates with the extrusion (0,0,-1)
+};
+
+double real(const resbuf* list, int code, double fallback = 0.0) {
+    const resbuf* g = findGroup(list, code);
+    return g ? g->resval.rreal : fallback;
+}
+
+int integer(const resbuf* list, int code) {
+    const resbuf* g = findGroup(list, code);
+    return g ? g->resval.rint : 0;
+}
+
+PathVertex vertexAt(const double p[3], double bulge = 0.0, double w0 = 0.0, double w1 = 0.0) {
+    PathVertex v;
+    for (int i = 0; i < 3; ++i) v.p[i] = p[i];
+    v.bulge = bulge;
+    v.startWidth = w0;
+    v.endWidth = w1;
+    return v;
+}
+
+PathVertex onCircle(const double c[3], double r, double angle, double bulge) {
+    double p[3] = {c[0] + r * std::cos(angle), c[1] + r * std::sin(angle), c[2]};
+    return vertexAt(p, bulge);
+}
+
+std::vector<Name> polylineVertices(const Name& head) {
+    std::vector<Name> out;
+    ads_name at = {head[0], head[1]}, next;
+    while (acdbEntNext(at, next) == RTNORM) {
+        RbPtr v = entityList({next[0], next[1]});
+        const resbuf* type = findGroup(v.get(), 0);
+        if (!type || std::wstring(type->resval.rstring) != L"VERTEX") break;
+        out.push_back({next[0], next[1]});
+        acdbNameSet(next, at);
+    }
+    return out;
+}
+
+bool pathOf(const Entity& e, Path& path) {
+    const resbuf* l = e.list.get();
+    if (e.type == L"LINE") {
+        path.vertices = {vertexAt(findGroup(l, 10)->resval.rpoint), vertexAt(findGroup(l, 11)->resval.rpoint)};
+        return true;
+    }
+    if (e.type == L"ARC" || e.type == L"CIRCLE") {
+        const double* c = findGroup(l, 10)->resval.rpoint;
+        double r = real(l, 40);
+        if (e.type == L"CIRCLE") {
+            path.vertices = {onCircle(c, r, 0.0, 1.0), onCircle(c, r, kTwoPi / 2, 1.0)};
+            path.closed = true;
+            return true;
+        }
+        double a0 = real(l, 50), a1 = real(l, 51);
+        double sweep = std::fmod(a1 - a0, kTwoPi);
+        if (sweep <= 0) sweep += kTwoPi;
+        path.vertices = {onCircle(c, r, a0, std::tan(sweep / 4)), onCircle(c, r, a0 + sweep, 0.0)};
+        return true;
+    }
+    if (e.type == L"LWPOLYLINE") {
+        double width = real(l, 43), elevation = real(l, 38);
+        for (const resbuf* rb = l; rb && rb->restype != -3; rb = rb->rbnext) {
+            auto& v = path.vertices;
+            if (rb->restype == 10) {
+                double p[3] = {rb->resval.rpoint[0], rb->resval.rpoint[1], elevation};
+                v.push_back(vertexAt(p, 0.0, width, width));
+            } else if (!v.empty() && rb->restype == 40) v.back().startWidth = rb->resval.rreal;
+            else if (!v.empty() && rb->restype == 41) v.back().endWidth = rb->resval.rreal;
+            else if (!v.empty() && rb->restype == 42) v.back().bulge = rb->resval.rreal;
+        }
+        path.closed = integer(l, 70) & 1;
+        return path.vertices.size() >= 2;
+    }
+    if (e.type == L"POLYLINE") {
+        int flags = integer(l, 70);
+        if (flags & (16 | 64)) return false;  // meshes
+        double w0 = real(l, 40), w1 = real(l, 41);
+        double elevation = findGroup(l, 10) ? findGroup(l, 10)->resval.rpoint[2] : 0.0;
+        for (const auto& n : polylineVertices(e.name)) {
+            RbPtr v = entityList(n);
+            double p[3];
+            for (int i = 0; i < 3; ++i) p[i] = findGroup(v.get(), 10)->resval.rpoint[i];
+            if (!(flags & 8)) p[2] = elevation;
+            path.vertices.push_back(vertexAt(p, real(v.get(), 42), real(v.get(), 40, w0), real(v.get(), 41, w1)));
+        }
+        path.closed = flags & 1;
+        return path.vertices.size() >= 2;
+    }
+    return false;
+}
+
+double angleAbout(const double c[3], const double p[3]) { return std::atan2(p[1] - c[1], p[0] - c[0]); }
+
+int modify(const Name& n, resbuf* changes) {
+    ads_name e = {n[0], n[1]};
+    RbPtr list(acutBuildList(-1, e, 0));
+    list->rbnext = changes;
+    return acdbEntMod(list.get());
+}
+
+int make(RbPtr list) { return acdbEntMake(list.get()); }
+
+// The groups of an arc piece: its start and end angles about the centre.
+resbuf* arcAngles(const double c[3], const Path& piece) {
+    return acutBuildList(50, angleAbout(c, piece.vertices.front().p), 51, angleAbout(c, piece.vertices.back().p), 0);
+}
+
+resbuf* lwVertices(const Path& piece, bool widths) {
+    resbuf* head = nullptr;
+    resbuf** tail = &head;
+    for (const auto& v : piece.vertices) {
+        double p[3] = {v.p[0], v.p[1], 0.0};
+        *tail = widths ? acutBuildList(10, p, 40, v.startWidth, 41, v.endWidth, 42, v.bulge, 0)
+                       : acutBuildList(10, p, 42, v.bulge, 0);
+        while (*tail) tail = &(*tail)->rbnext;
+    }
+    return head;
+}
+
+int makePolyline(const Entity& e, const Path& piece) {
+    int flags = integer(e.list.get(), 70) & ~1;
+    RbPtr head = copyFor(e.list.get(), {5, 330, 100, 70});
+    insertAfterType(head.get(), acutBuildList(70, flags, 0));
+    if (int s = make(std::move(head)); s != RTNORM) return s;
+    for (const auto& v : piece.vertices) {
+        RbPtr vertex(acutBuildList(RTDXF0, L"VERTEX", 10, v.p, 40, v.startWidth, 41, v.endWidth, 42, v.bulge, 70,
+                                   (flags & 8) ? 32 : 0, 0));
+        if (int s = make(std::move(vertex)); s != RTNORM) return s;
+    }
+    return make(RbPtr(acutBuildList(RTDXF0, L"SEQEND", 0)));
+}
+
+int applyPieces(const Entity& e, const std::vector<Path>& pieces) {
+    ads_name name = {e.name[0], e.name[1]};
+    const resbuf* l = e.list.get();
+    if (pieces.empty()) return acdbEntDel(name);
+    if (e.type == L"POLYLINE") {
+        acdbEntDel(name);
+        for (const auto& piece : pieces)
+            if (int s = makePolyline(e, piece); s != RTNORM) return s;
+        return RTNORM;
+    }
+    if (e.type == L"CIRCLE") {
+        RbPtr arc = copyFor(l, {5, 330, 100});
+        setType(arc.get(), L"ARC");
+        insertAfterType(arc.get(), arcAngles(findGroup(l, 10)->resval.rpoint, pieces.front()));
+        if (int s = make(std::move(arc)); s != RTNORM) return s;
+        return acdbEntDel(name);
+    }
+    for (size_t i = 0; i < pieces.size(); ++i) {
+        const Path& piece = pieces[i];
+        resbuf* changes = nullptr;
+        std::vector<int> replaced;
+        if (e.type == L"LINE") {
+            changes = acutBuildList(10, piece.vertices.front().p, 11, piece.vertices.back().p, 0);
+            replaced = {5, 330, 100, 10, 11};
+        } else if (e.type == L"ARC") {
+            changes = arcAngles(findGroup(l, 10)->resval.rpoint, piece);
+            replaced = {5, 330, 100, 50, 51};
+        } else {  // LWPOLYLINE
+            bool widths = findGroup(l, 40) != nullptr;
+            changes = acutBuildList(70, integer(l, 70) & ~1, 0);
+            changes->rbnext = lwVertices(piece, widths);
+            replaced = {5, 330, 100, 70, 90, 10, 40, 41, 42, 91};
+        }
+        if (i == 0) {
+            if (int s = modify(e.name, changes); s != RTNORM) return s;
+            continue;
+        }
+        RbPtr copy = copyFor(l, replaced);
+        insertAfterType(copy.get(), changes);
+        if (int s = make(std::move(copy)); s != RTNORM) return s;
+    }
+    return RTNORM;
+}
+
+// World points into the entity's own coordinates.
+void toObject(const Entity& e, double p[3]) {
+    if (e.flipped) {
+        p[0] = -p[0];
+        p[2] = -p[2];
+    }
+}
+
+int breakAt(const Name& n, double first[3], double second[3]) {
+    Entity e;
+    e.name = n;
+    e.list = entityList(n, true);
+    const resbuf* type = e.list ? findGroup(e.list.get(), 0) : nullptr;
+    if (!type) return RTERROR;
+    e.type = type->resval.rstring;
+    if (const resbuf* z = findGroup(e.list.get(), 210))
+        e.flipped = z->resval.rpoint[2] < 0 && std::fabs(z->resval.rpoint[0]) < 1e-9 && std::fabs(z->resval.rpoint[1]) < 1e-9;
+    if (e.type == L"LINE" || (e.type == L"POLYLINE" && (integer(e.list.get(), 70) & 8))) e.flipped = false;
+    Path path;
+    if (!pathOf(e, path)) {
+        say(L"\nCannot break this object.");
+        return RTERROR;
+    }
+    toObject(e, first);
+    toObject(e, second);
+    std::vector<Path> pieces;
+    if (!breakPath(path, project(path, first), project(path, second), pieces)) {
+        say(e.type == L"CIRCLE" ? L"\nArc cannot be full 360 degrees." : L"\nCannot break a closed object at one point.");
+        return RTERROR;
+    }
+    return applyPieces(e, pieces);
+}
+
+bool askPoint(CommandInput& in, const wchar_t* promptText, double p[3]) {
+    const CommandToken* t = ask(in, promptText);
+    return t && readPoint(*t, p);
+}
+
+int breakCommand(CommandInput& in) {
+    Name object;
+    double first[3] = {0, 0, 0}, second[3];
+    bool picked = false;
+    if (!readOneObject(in, L"\nSelect object: ", object, first, picked)) return RTERROR;
+    const CommandToken* t = ask(in, L"\nSpecify second break point or [First point]: ");
+    if (!t) return RTCAN;
+    if (isKeyword(*t, {L"FIRST", L"F"})) {
+        if (!askPoint(in, L"\nSpecify first break point: ", first) ||
+            !askPoint(in, L"\nSpecify second break point: ", second))
+            return RTCAN;
+    } else if (readPoint(*t, second)) {
+        if (!picked)
+            for (int i = 0; i < 3; ++i) first[i] = second[i];
+    } else {
+        say(L"\nInvalid point.");
+        return RTERROR;
+    }
+    return breakAt(object, first, second);
+}
+
+CommandRegistration breakRegistration(L"BREAK", breakCommand);
+
+}  // namespace
+}  // namespace host::cmd
