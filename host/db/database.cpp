@@ -1,5 +1,6 @@
 #include "host/db/database.h"
 
+#include <algorithm>
 #include <atomic>
 #include <charconv>
 
@@ -64,8 +65,15 @@ Database::~Database() = default;
 
 std::unique_ptr<Database> Database::parse(std::string_view text, std::wstring_view source,
                                           std::wstring& error) {
+    return parse(text, source, error, {});
+}
+
+std::unique_ptr<Database> Database::parse(std::string_view text, std::wstring_view source,
+                                          std::wstring& error,
+                                          const std::function<void(size_t)>& consumed) {
     std::unique_ptr<Database> db(new Database(Empty{}));
     DxfReader reader(*db, source);
+    reader.onConsumed(consumed);
     if (!reader.read(text, error)) return nullptr;
     return db;
 }
@@ -128,20 +136,34 @@ uint32_t Database::addRecord(std::string_view type, std::string groups, RecordKi
     return index;
 }
 
+namespace {
+
+auto handleLess = [](const std::pair<uint64_t, uint32_t>& entry, uint64_t handle) { return entry.first < handle; };
+
+}  // namespace
+
 uint32_t Database::findHandle(uint64_t handle) const {
     if (handle == 0) return kNone;
-    auto it = byHandle_.find(handle);
-    return it == byHandle_.end() ? kNone : it->second;
+    auto it = std::lower_bound(byHandle_.begin(), byHandle_.end(), handle, handleLess);
+    return it == byHandle_.end() || it->first != handle ? kNone : it->second;
 }
 
 void Database::indexHandle(uint64_t handle, uint32_t index) {
     records_[index].handle = handle;
-    if (handle) byHandle_[handle] = index;
     noteHandle(handle);
+    if (!handle) return;
+    // New handles come from the seed, above all others: the index stays sorted by appending.
+    if (byHandle_.empty() || byHandle_.back().first < handle) {
+        byHandle_.emplace_back(handle, index);
+        return;
+    }
+    auto it = std::lower_bound(byHandle_.begin(), byHandle_.end(), handle, handleLess);
+    if (it != byHandle_.end() && it->first == handle) it->second = index;
+    else byHandle_.insert(it, {handle, index});
 }
 
 uint64_t Database::newHandle() {
-    while (byHandle_.count(handseed_)) ++handseed_;
+    while (findHandle(handseed_) != kNone) ++handseed_;
     uint64_t h = handseed_++;
     std::string seed;
     appendGroup(seed, 5, handleText(handseed_));
@@ -157,7 +179,8 @@ void Database::indexAll() {
     byHandle_.clear();
     byHandle_.reserve(records_.size());
     for (uint32_t i = 0; i < records_.size(); ++i)
-        if (records_[i].handle) byHandle_.emplace(records_[i].handle, i);
+        if (records_[i].handle) byHandle_.emplace_back(records_[i].handle, i);
+    std::sort(byHandle_.begin(), byHandle_.end());
 }
 
 // --- header ---------------------------------------------------------------------------------

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -88,6 +89,11 @@ public:
     // The same from text held in memory; source names it in messages.
     static std::unique_ptr<Database> parse(std::string_view text, std::wstring_view source,
                                            std::wstring& error);
+    // The same, telling consumed how far the text has been read, so that a caller holding it
+    // in a file mapping can let go of the pages behind.
+    static std::unique_ptr<Database> parse(std::string_view text, std::wstring_view source,
+                                           std::wstring& error,
+                                           const std::function<void(size_t)>& consumed);
     // Writes the drawing as DXF; false with a message when it cannot.
     bool save(const std::filesystem::path& path, std::wstring& error) const;
     // The DXF text the drawing saves as.
@@ -189,7 +195,7 @@ private:
     std::vector<Record> records_;
     std::vector<std::string> typeNames_;
     std::unordered_map<std::string, uint32_t> typeIds_;
-    std::unordered_map<uint64_t, uint32_t> byHandle_;
+    std::vector<std::pair<uint64_t, uint32_t>> byHandle_;  // sorted by handle
     std::vector<Section> sections_;
     std::vector<HeaderVar> header_;
     std::vector<Table> tables_;

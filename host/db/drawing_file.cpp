@@ -2,12 +2,12 @@
 // the target and renames it over the target only when every byte is written, so a failed
 // save leaves the previous file as it was.
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
-#include <fstream>
 
 #include "host/db/database.h"
 #include "host/db/dxf_writer.h"
@@ -71,24 +71,45 @@ std::unique_ptr<Database> Database::load(const std::filesystem::path& given, std
         error = L"cannot open " + path.wstring() + L": it is a folder";
         return nullptr;
     }
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) {
         error = L"cannot open " + path.wstring() + L": " + systemError(errno);
         return nullptr;
     }
-    std::string text;
-    in.seekg(0, std::ios::end);
-    auto size = in.tellg();
-    in.seekg(0, std::ios::beg);
-    if (size > 0) {
-        text.resize(static_cast<size_t>(size));
-        in.read(text.data(), size);
-    }
-    if (!in) {
-        error = L"cannot read " + path.wstring();
+    struct stat st{};
+    if (::fstat(fd, &st) != 0) {
+        error = L"cannot read " + path.wstring() + L": " + systemError(errno);
+        ::close(fd);
         return nullptr;
     }
-    return parse(text, path.filename().wstring(), error);
+    auto size = static_cast<size_t>(st.st_size);
+    if (size == 0) {
+        ::close(fd);
+        return parse({}, path.filename().wstring(), error);
+    }
+    // The file is read through a mapping whose pages are let go once the reader is past
+    // them, so that a large drawing is not held twice while it is read.
+    void* map = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, fd, 0);
+    ::close(fd);
+    if (map == MAP_FAILED) {
+        error = L"cannot read " + path.wstring() + L": " + systemError(errno);
+        return nullptr;
+    }
+    ::madvise(map, size, MADV_SEQUENTIAL);
+    auto* base = static_cast<char*>(map);
+    size_t released = 0;
+    const auto page = static_cast<size_t>(::sysconf(_SC_PAGESIZE));
+    auto consumed = [&](size_t upto) {
+        constexpr size_t kMargin = 1 << 20;  // the group held back by the reader stays mapped
+        if (upto < kMargin) return;
+        size_t end = (upto - kMargin) / page * page;
+        if (end <= released) return;
+        ::madvise(base + released, end - released, MADV_DONTNEED);
+        released = end;
+    };
+    auto db = parse(std::string_view(base, size), path.filename().wstring(), error, consumed);
+    ::munmap(map, size);
+    return db;
 }
 
 bool Database::save(const std::filesystem::path& given, std::wstring& error) const {

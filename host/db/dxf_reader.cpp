@@ -100,6 +100,11 @@ bool DxfReader::next(Group& g) {
         ++line_;
         return true;
     };
+    constexpr size_t kReportStep = 8 << 20;
+    if (consumed_ && pos_ >= reported_ + kReportStep) {
+        reported_ = pos_;
+        consumed_(pos_);
+    }
     std::string_view codeLine;
     if (!nextLine(codeLine)) return false;
     size_t codeLineNo = line_;

@@ -3,6 +3,7 @@
 // rather than loaded in part. Binary DXF and DWG files are refused.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,8 @@ public:
     // False with a message naming the line when the text is not a DXF drawing; the database
     // is then not usable.
     bool read(std::string_view text, std::wstring& error);
+    // Told every few megabytes how far into the text the reader has come.
+    void onConsumed(std::function<void(size_t)> consumed) { consumed_ = std::move(consumed); }
 
 private:
     struct Group {
@@ -51,6 +54,8 @@ private:
     bool hasPending_ = false;
     std::wstring* error_ = nullptr;
     std::vector<std::pair<uint32_t, size_t>> missingHandles_;  // record, line
+    std::function<void(size_t)> consumed_;
+    size_t reported_ = 0;
 };
 
 }  // namespace host::db

@@ -141,7 +141,8 @@ TEST(DxfReader, EverythingTheHostDoesNotKnowIsWrittenBack) {
                             {0, "EOF"}});
     // THUMBNAILIMAGE has groups straight after its name: kept all the same.
     auto db = parseOk(text);
-    if (db) EXPECT_EQ(db->dxfText(), text);
+    ASSERT_NE(db, nullptr);
+    EXPECT_EQ(db->dxfText(), text);
 }
 
 struct TextCase {
