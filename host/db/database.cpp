@@ -164,11 +164,7 @@ void Database::indexHandle(uint64_t handle, uint32_t index) {
 
 uint64_t Database::newHandle() {
     while (findHandle(handseed_) != kNone) ++handseed_;
-    uint64_t h = handseed_++;
-    std::string seed;
-    appendGroup(seed, 5, handleText(handseed_));
-    setHeaderVar("$HANDSEED", std::move(seed));
-    return h;
+    return handseed_++;  // $HANDSEED is written from the seed when the drawing is saved
 }
 
 void Database::noteHandle(uint64_t handle) {

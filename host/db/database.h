@@ -120,6 +120,7 @@ public:
     uint32_t findHandle(uint64_t handle) const;
     void indexHandle(uint64_t handle, uint32_t index);
     uint64_t newHandle();
+    uint64_t handseed() const { return handseed_; }  // above every handle in use
     void noteHandle(uint64_t handle);  // keeps $HANDSEED above every handle in use
 
     // --- sections ---------------------------------------------------------------------------

@@ -15,11 +15,20 @@ public:
     Writer(const Database& db, OutputSink& sink) : db_(db), sink_(sink), eol_(db.format().eol) {
         buffer_.reserve(kChunk + 4096);
         if (db.sysvars()) changes_ = changesToSave(db, *db.sysvars());
+        seed();
     }
 
     bool run() {
         if (db_.format().bom) buffer_ += "\xEF\xBB\xBF";
         for (const auto& c : db_.comments()) group(999, c);
+        bool hasHeader = false;
+        for (const auto& s : db_.sections()) hasHeader |= s.kind == SectionKind::Header;
+        if (!hasHeader && !changes_.added.empty()) {  // variables a drawing without a header needs
+            group(0, "SECTION");
+            group(2, "HEADER");
+            header();
+            group(0, "ENDSEC");
+        }
         for (const auto& s : db_.sections()) {
             group(0, "SECTION");
             group(2, s.name);
@@ -44,6 +53,28 @@ public:
 
 private:
     static constexpr size_t kChunk = 1 << 20;
+
+    // $HANDSEED above the handles given since the drawing was read.
+    void seed() {
+        uint64_t written = 0;
+        bool present = parseHandle(db_.headerValue("$HANDSEED", 5), written);
+        if (present && written >= db_.handseed()) return;
+        if (!present && !db_.headerVar("$HANDSEED")) {
+            if (db_.handseed() <= 1) return;  // no handle anywhere
+            if (db_.isR12() && !db_.headerVar("$HANDLING")) {  // R12 says that handles are in use
+                std::string on;
+                appendGroup(on, 70, "1");
+                changes_.added.emplace_back("$HANDLING", std::move(on));
+            }
+            std::string blob;
+            appendGroup(blob, 5, handleText(db_.handseed()));
+            changes_.added.emplace_back("$HANDSEED", std::move(blob));
+            return;
+        }
+        std::string blob;
+        appendGroup(blob, 5, handleText(db_.handseed()));
+        changes_.header["$HANDSEED"] = std::move(blob);
+    }
 
     void code(int c) {
         char buf[8];

@@ -124,5 +124,15 @@ TEST_F(WrittenDrawing, R12Drawing) {
     EXPECT_EQ(text.find("\n330\n"), std::string::npos) << "nor owners";
 }
 
+TEST_F(WrittenDrawing, EntitiesOnlyDrawingGetsTheHeaderItsHandlesNeed) {
+    openDxf("  0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n");
+    EXPECT_EQ(db().dxfText(), "  0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n");
+    const double a[3] = {0, 0, 0}, b[3] = {1, 1, 0};
+    makeLine(a, b);
+    std::string text = db().dxfText();
+    EXPECT_EQ(text.rfind("  0\nSECTION\n  2\nHEADER\n  9\n$HANDLING\n 70\n1\n  9\n$HANDSEED\n", 0), 0u) << text;
+    for (const auto& fault : lintDxf(text)) ADD_FAILURE() << fault;
+}
+
 }  // namespace
 }  // namespace dbtest
