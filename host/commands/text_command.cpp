@@ -111,76 +111,85 @@ int makeText(const Placement& where, const Style& style, double height, double r
     return makeWithCurrentProperties(list.release());
 }
 
-int textCommand(CommandInput& in) {
-    Style style = currentStyle();
-    double size = 2.5;
-    if (const SysVarValue* v = vars().find(L"TEXTSIZE")) size = v->real;
-    Placement where;
-    bool placed = false;
-    while (!placed) {
+bool twoPoints(const Placement& where) {
+    return where.just && (where.just->horizontal == 3 || where.just->horizontal == 5);
+}
+
+// Style to use: a name answered at the Style option, when such a style exists.
+void chooseStyle(CommandInput& in, Style& style) {
+    const CommandToken* n = ask(in, L"\nEnter style name or [?] <" + style.name + L">: ");
+    if (!n || n->type != RTSTR || n->isEnter()) return;
+    if (database().findEntry("STYLE", n->text) == db::kNone) {
+        say(L"\nCannot find text style \"" + n->text + L"\".");
+        return;
+    }
+    vars().setString(L"TEXTSTYLE", n->text);
+    style = currentStyle();
+}
+
+// The start point, or a justification and its point(s); false when the input ends.
+bool readPlacement(CommandInput& in, Style& style, double size, Placement& where) {
+    for (;;) {
         const CommandToken* t = ask(in, L"\nCurrent text style:  \"" + style.name + L"\"  Text height:  " +
                                             format4(style.height > 0 ? style.height : size) +
                                             L"\nSpecify start point of text or [Justify/Style]: ");
-        if (!t || t->isEnter()) return RTNORM;
+        if (!t || t->isEnter()) return false;
         if (isKeyword(*t, {L"STYLE", L"S"})) {
-            const CommandToken* n = ask(in, L"\nEnter style name or [?] <" + style.name + L">: ");
-            if (n && n->type == RTSTR && !n->isEnter()) {
-                if (database().findEntry("STYLE", n->text) == db::kNone) say(L"\nCannot find text style \"" + n->text + L"\".");
-                else {
-                    vars().setString(L"TEXTSTYLE", n->text);
-                    style = currentStyle();
-                }
-            }
+            chooseStyle(in, style);
             continue;
         }
         const CommandToken* j = t;
         if (isKeyword(*t, {L"JUSTIFY", L"J"}))
             j = ask(in, L"\nEnter an option [Align/Fit/Center/Middle/Right/TL/TC/TR/ML/MC/MR/BL/BC/BR]: ");
-        if (!j) return RTNORM;
+        if (!j) return false;
         if ((where.just = justificationOf(*j))) {
-            bool twoPoints = where.just->horizontal == 3 || where.just->horizontal == 5;
-            if (!askPoint(in, twoPoints ? L"\nSpecify first endpoint of text baseline: " : L"\nSpecify point: ", where.first))
-                return RTNORM;
-            if (twoPoints && !askPoint(in, L"\nSpecify second endpoint of text baseline: ", where.second)) return RTNORM;
-            placed = true;
-        } else if (readPoint(*j, where.first)) {
-            placed = true;
-        } else {
-            say(L"\nInvalid option keyword.");
+            if (!askPoint(in, twoPoints(where) ? L"\nSpecify first endpoint of text baseline: " : L"\nSpecify point: ",
+                          where.first))
+                return false;
+            return !twoPoints(where) || askPoint(in, L"\nSpecify second endpoint of text baseline: ", where.second);
         }
+        if (readPoint(*j, where.first)) return true;
+        say(L"\nInvalid option keyword.");
     }
-    bool twoPoints = where.just && (where.just->horizontal == 3 || where.just->horizontal == 5);
-    double height = style.height > 0 ? style.height : size;
-    if (style.height <= 0 && !(where.just && where.just->horizontal == 3)) {
-        while (const CommandToken* t = ask(in, L"\nSpecify height <" + format4(size) + L">: ")) {
-            if (t->isEnter()) break;
-            double v;
-            if (readReal(*t, v) && v > 0) {
-                height = v;
-                vars().setReal(L"TEXTSIZE", v);
-                break;
-            }
-            say(L"\nRequires a positive number.");
+}
+
+// The height answered (TEXTSIZE then follows it); Enter keeps size.
+double readHeight(CommandInput& in, double size) {
+    while (const CommandToken* t = ask(in, L"\nSpecify height <" + format4(size) + L">: ")) {
+        if (t->isEnter()) break;
+        double v;
+        if (readReal(*t, v) && v > 0) {
+            vars().setReal(L"TEXTSIZE", v);
+            return v;
         }
+        say(L"\nRequires a positive number.");
     }
-    double rotation = 0.0;
-    if (twoPoints) {
-        rotation = std::atan2(where.second[1] - where.first[1], where.second[0] - where.first[0]);
-    } else {
-        while (const CommandToken* t = ask(in, L"\nSpecify rotation angle of text <0>: ")) {
-            if (t->isEnter()) break;
-            double v, p[3];
-            if (readReal(*t, v)) {
-                rotation = toRadians(v);
-                break;
-            }
-            if (readPoint(*t, p)) {
-                rotation = std::atan2(p[1] - where.first[1], p[0] - where.first[0]);
-                break;
-            }
-            say(L"\nRequires valid numeric angle or second point.");
-        }
+    return size;
+}
+
+// The rotation in radians: an angle in the current units, or a point the baseline aims at.
+double readRotation(CommandInput& in, const Placement& where) {
+    while (const CommandToken* t = ask(in, L"\nSpecify rotation angle of text <0>: ")) {
+        if (t->isEnter()) break;
+        double v, p[3];
+        if (readReal(*t, v)) return toRadians(v);
+        if (readPoint(*t, p)) return std::atan2(p[1] - where.first[1], p[0] - where.first[0]);
+        say(L"\nRequires valid numeric angle or second point.");
     }
+    return 0.0;
+}
+
+int textCommand(CommandInput& in) {
+    Style style = currentStyle();
+    double size = 2.5;
+    if (const SysVarValue* v = vars().find(L"TEXTSIZE")) size = v->real;
+    Placement where;
+    if (!readPlacement(in, style, size, where)) return RTNORM;
+    bool aligned = where.just && where.just->horizontal == 3;  // height follows from the baseline
+    double height = style.height > 0 ? style.height : (aligned ? size : readHeight(in, size));
+    double rotation = twoPoints(where)
+                          ? std::atan2(where.second[1] - where.first[1], where.second[0] - where.first[0])
+                          : readRotation(in, where);
     // The first line, then each further line below the one before until Enter.
     const CommandToken* t = ask(in, L"\nEnter text: ");
     std::wstring text;

@@ -146,7 +146,6 @@ public:
     // --- format -----------------------------------------------------------------------------
     const std::string& acadver() const { return acadver_; }
     bool isR12() const { return acadver_ < "AC1012"; }  // no subclass markers, owners, objects
-    bool hasHandles() const { return handles_; }
     const TextCodec& codec() const { return codec_; }
     std::wstring text(std::string_view raw) const { return codec_.decode(raw); }
     std::string rawText(std::wstring_view text) const { return codec_.encode(text); }
@@ -159,7 +158,6 @@ public:
     const Format& format() const { return format_; }
     // Called by the reader once the header is known.
     void setVersion(std::string acadver, std::string_view codePage);
-    void setHandlesEnabled(bool on) { handles_ = on; }
 
     // --- structure lookups ------------------------------------------------------------------
     Table* table(std::string_view upperName);
@@ -206,7 +204,6 @@ private:
     std::string acadver_ = "AC1009";
     TextCodec codec_;
     Format format_;
-    bool handles_ = true;
     uint64_t handseed_ = 1;
     std::unique_ptr<SelectionSets> selectionSets_;
     std::unique_ptr<EntMakeState> entMake_;

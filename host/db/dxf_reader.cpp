@@ -329,49 +329,49 @@ bool DxfReader::readEntityList(std::vector<uint32_t>& into, uint32_t block, std:
             return fail(g.line, fromUtf8(type) + L" does not follow a POLYLINE or INSERT");
         uint32_t index;
         if (!readRecord(g, RecordKind::Entity, index)) return false;
-        db_.records_[index].block = block;
-        db_.records_[index].pos = static_cast<uint32_t>(into.size());
-        into.push_back(index);
+        place(index, into, block);
         std::string_view follows;
         bool polyline = type == "POLYLINE";
         bool attributes = type == "INSERT" && findGroup(db_.records_[index].groups, 66, follows) &&
                           trim(follows) == "1";
-        if (!polyline && !attributes) continue;
-        size_t headLine = g.line;
-        std::string_view subType = polyline ? "VERTEX" : "ATTRIB";
-        bool closed = false;
-        bool anySub = false;
-        while (next(g)) {
-            std::string_view t = trim(g.value);
-            if (t == subType || t == "SEQEND") {
-                uint32_t sub;
-                if (!readRecord(g, RecordKind::SubEntity, sub)) return false;
-                db_.records_[sub].main = index;
-                db_.records_[sub].block = block;
-                db_.records_[sub].pos = static_cast<uint32_t>(into.size());
-                into.push_back(sub);
-                anySub = true;
-                if (t == "SEQEND") {
-                    closed = true;
-                    break;
-                }
-                continue;
-            }
-            if (!polyline && !anySub) {  // an INSERT whose attributes-follow flag is wrong
-                pushBack(g);
-                closed = true;
-                break;
-            }
-            return fail(g.line, fromUtf8(type) + L" at line " + std::to_wstring(headLine) +
-                                    L" is not closed by SEQEND before " + quoted(t));
-        }
-        if (!closed) {
-            if (error_->empty())
-                fail(line_, fromUtf8(type) + L" at line " + std::to_wstring(headLine) +
-                                L" is not closed by SEQEND; the file may be truncated");
-            return false;
-        }
+        if ((polyline || attributes) && !readParts(index, std::string(type), g.line, into, block)) return false;
     }
+    return false;
+}
+
+void DxfReader::place(uint32_t index, std::vector<uint32_t>& into, uint32_t block) {
+    db_.records_[index].block = block;
+    db_.records_[index].pos = static_cast<uint32_t>(into.size());
+    into.push_back(index);
+}
+
+bool DxfReader::readParts(uint32_t head, const std::string& type, size_t headLine, std::vector<uint32_t>& into,
+                          uint32_t block) {
+    bool polyline = type == "POLYLINE";
+    std::string_view partType = polyline ? "VERTEX" : "ATTRIB";
+    bool anyPart = false;
+    Group g;
+    while (next(g)) {
+        std::string_view t = trim(g.value);
+        if (t == partType || t == "SEQEND") {
+            uint32_t part;
+            if (!readRecord(g, RecordKind::SubEntity, part)) return false;
+            db_.records_[part].main = head;
+            place(part, into, block);
+            anyPart = true;
+            if (t == "SEQEND") return true;
+            continue;
+        }
+        if (!polyline && !anyPart) {  // an INSERT whose attributes-follow flag is wrong
+            pushBack(g);
+            return true;
+        }
+        return fail(g.line, fromUtf8(type) + L" at line " + std::to_wstring(headLine) +
+                                L" is not closed by SEQEND before " + quoted(t));
+    }
+    if (error_->empty())
+        fail(line_, fromUtf8(type) + L" at line " + std::to_wstring(headLine) +
+                        L" is not closed by SEQEND; the file may be truncated");
     return false;
 }
 
@@ -393,102 +393,75 @@ bool DxfReader::readRecords(Section& section) {
     return false;
 }
 
-void DxfReader::giveHandles() {
-    auto& records = db_.records_;
-    bool r12 = db_.isR12();
-    // A handle used twice keeps its first record; the others get new ones like the records
-    // that have none, numbered above every handle of the file.
+std::vector<uint32_t> DxfReader::duplicateHandles() {
+    // A handle used twice keeps its first record; the others get new ones.
     std::unordered_set<uint64_t> seen;
-    seen.reserve(records.size());
-    std::vector<uint32_t> renumber;
-    for (uint32_t i = 0; i < records.size(); ++i) {
-        uint64_t h = records[i].handle;
+    seen.reserve(db_.records_.size());
+    std::vector<uint32_t> duplicates;
+    for (uint32_t i = 0; i < db_.records_.size(); ++i) {
+        uint64_t h = db_.records_[i].handle;
         if (!h) continue;
         if (!seen.insert(h).second) {
-            records[i].handle = 0;
-            renumber.push_back(i);
+            db_.records_[i].handle = 0;
+            duplicates.push_back(i);
             db_.warnings_.push_back(L"handle " + fromUtf8(handleText(h)) +
                                     L" is used more than once; a later object was given a new handle");
         }
         db_.noteHandle(h);
     }
+    return duplicates;
+}
+
+bool DxfReader::needsHandle(const Record& r) const {
+    switch (r.kind) {
+    case RecordKind::Entity:
+    case RecordKind::SubEntity: return true;
+    case RecordKind::BlockBegin:
+    case RecordKind::BlockEnd:
+    case RecordKind::TableHead:
+    case RecordKind::TableEntry:
+    case RecordKind::Object: return !db_.isR12();
+    default: return false;
+    }
+}
+
+void DxfReader::giveHandle(uint32_t index, bool replace) {
+    Record& r = db_.records_[index];
+    if (!needsHandle(r)) return;
+    int code = db_.typeName(r) == "DIMSTYLE" && !db_.isR12() ? 105 : 5;
+    uint64_t h = db_.handseed_++;
+    std::string groups;
+    appendGroup(groups, code, handleText(h));
+    BlobCursor c(r.groups);
+    RawGroup g;
+    bool replaced = false;
+    while (c.next(g)) {
+        if (replace && !replaced && (g.code == 5 || g.code == 105)) {
+            replaced = true;
+            continue;
+        }
+        appendGroup(groups, g.code, g.value);
+    }
+    r.groups = std::move(groups);
+    r.handle = h;
+}
+
+// Records without a handle, and the later ones of a handle used twice, get handles numbered
+// above every handle of the file and above its seed. The writer puts the new seed (and for
+// R12 the variable saying that handles are in use) into the header.
+void DxfReader::giveHandles() {
+    std::vector<uint32_t> duplicates = duplicateHandles();
     uint64_t seed = 0;
-    if (parseHandle(db_.headerValue("$HANDSEED", 5), seed)) db_.noteHandle(seed - (seed ? 1 : 0));
-    auto needsHandle = [&](const Record& r) {
-        switch (r.kind) {
-        case RecordKind::Entity:
-        case RecordKind::SubEntity: return true;
-        case RecordKind::BlockBegin:
-        case RecordKind::BlockEnd:
-        case RecordKind::TableHead:
-        case RecordKind::TableEntry:
-        case RecordKind::Object: return !r12;
-        default: return false;
-        }
-    };
-    bool added = false;
-    auto give = [&](uint32_t index, bool replace) {
-        Record& r = records[index];
-        if (!needsHandle(r)) return;
-        bool dimstyle = db_.typeName(r) == "DIMSTYLE" && !r12;
-        int code = dimstyle ? 105 : 5;
-        uint64_t h = db_.handseed_++;
-        std::string groups;
-        appendGroup(groups, code, handleText(h));
-        BlobCursor c(r.groups);
-        RawGroup g;
-        bool replaced = false;
-        while (c.next(g)) {
-            if (replace && !replaced && (g.code == 5 || g.code == 105)) {
-                replaced = true;
-                continue;
-            }
-            appendGroup(groups, g.code, g.value);
-        }
-        r.groups = std::move(groups);
-        r.handle = h;
-        added = true;
-    };
-    for (auto [index, line] : missingHandles_) give(index, false);
-    for (uint32_t index : renumber) give(index, true);
-    if (added && r12) {
-        std::string on;
-        appendGroup(on, 70, "1");
-        db_.setHeaderVar("$HANDLING", std::move(on));
-    }
-    uint64_t current = 0;
-    bool hasSeed = parseHandle(db_.headerValue("$HANDSEED", 5), current);
-    bool wantSeed = !r12 || added || !db_.headerValue("$HANDLING", 70).empty();
-    if (wantSeed && (!hasSeed || current < db_.handseed_)) {
-        std::string value;
-        appendGroup(value, 5, handleText(db_.handseed_));
-        db_.setHeaderVar("$HANDSEED", std::move(value));
-    }
+    if (parseHandle(db_.headerValue("$HANDSEED", 5), seed) && seed) db_.noteHandle(seed - 1);
+    for (auto [index, line] : missingHandles_) giveHandle(index, false);
+    for (uint32_t index : duplicates) giveHandle(index, true);
 }
 
 bool DxfReader::finish() {
     std::string acadver(trim(db_.headerValue("$ACADVER", 1)));
     if (acadver.empty()) acadver = "AC1009";
     db_.setVersion(acadver, trim(db_.headerValue("$DWGCODEPAGE", 3)));
-    size_t headerVars = db_.header_.size();
     giveHandles();
-    // Variables the reader had to add need a HEADER section to be written in.
-    if (db_.header_.size() != headerVars) {
-        bool hasHeader = false;
-        for (const auto& s : db_.sections_) hasHeader |= s.kind == SectionKind::Header;
-        if (!hasHeader) {
-            Section header;
-            header.kind = SectionKind::Header;
-            header.name = "HEADER";
-            db_.sections_.insert(db_.sections_.begin(), std::move(header));
-            if (!db_.headerVar("$ACADVER")) {
-                std::string version;
-                appendGroup(version, 1, acadver);
-                db_.header_.insert(db_.header_.begin(), HeaderVar{"$ACADVER", std::move(version)});
-            }
-        }
-    }
-    db_.setHandlesEnabled(!db_.isR12() || !db_.headerValue("$HANDLING", 70).empty());
     db_.indexAll();
     return true;
 }

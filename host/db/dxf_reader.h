@@ -41,7 +41,14 @@ private:
     bool readRecords(Section& section);
     // Reads the groups after "0 TYPE" up to the next 0; the 0 is pushed back.
     bool readRecord(const Group& start, RecordKind kind, uint32_t& index);
+    void place(uint32_t index, std::vector<uint32_t>& into, uint32_t block);
+    // The VERTEX or ATTRIB records and the SEQEND after a POLYLINE or INSERT.
+    bool readParts(uint32_t head, const std::string& type, size_t headLine, std::vector<uint32_t>& into,
+                   uint32_t block);
     bool finish();
+    std::vector<uint32_t> duplicateHandles();
+    bool needsHandle(const Record& r) const;
+    void giveHandle(uint32_t index, bool replace);
     void giveHandles();
 
     Database& db_;

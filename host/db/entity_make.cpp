@@ -230,31 +230,37 @@ int reject(short err) {
 
 }  // namespace
 
-int makeEntity(Database& db, const resbuf* list) {
-    Parsed p;
-    if (short err = parseList(db, list, p)) return reject(err);
-    const EntitySchema* schema = entitySchema(p.type);
-    if (!schema || (db.isR12() && !inR12(p.type))) return reject(kErrBadEntityType);
-    EntMakeState& state = db.entMakeState();
-    bool isSub = p.type == "VERTEX" || p.type == "ATTRIB" || p.type == "SEQEND";
-    if (!isSub && !state.complex.empty()) state.clearComplex();  // an unfinished one is dropped
-    if (isSub) {
-        if (state.complex.empty()) return reject(p.type == "ATTRIB" ? kErrBadEntityType : kErrBadPolyline);
+namespace {
+
+bool isPart(const std::string& type) { return type == "VERTEX" || type == "ATTRIB" || type == "SEQEND"; }
+
+// Whether the entity fits where the making stands: parts after their head, ENDBLK after
+// BLOCK; 0 or the ERRNO value. An unfinished complex entity is dropped by anything else.
+short checkSequence(EntMakeState& state, const std::string& type) {
+    bool part = isPart(type);
+    if (!part && !state.complex.empty()) state.clearComplex();
+    if (part) {
+        if (state.complex.empty()) return type == "ATTRIB" ? kErrBadEntityType : kErrBadPolyline;
         bool polyline = state.complex.front().type == "POLYLINE";
-        if (p.type != "SEQEND" && (p.type == "VERTEX") != polyline) return reject(kErrBadEntityType);
+        if (type != "SEQEND" && (type == "VERTEX") != polyline) return kErrBadEntityType;
     }
-    if (p.type == "ENDBLK") {
-        if (!state.inBlock) return reject(kErrBadBlockDefinition);
+    if (type == "ENDBLK") {
+        if (!state.inBlock) return kErrBadBlockDefinition;
         if (!state.complex.empty()) {
             state.clearComplex();
-            return reject(kErrIncompleteComplex);
+            return kErrIncompleteComplex;
         }
     }
-    if (p.type == "BLOCK" && state.inBlock) return reject(kErrBadBlockDefinition);
+    if (type == "BLOCK" && state.inBlock) return kErrBadBlockDefinition;
+    return 0;
+}
 
+// The groups the editor supplies when they are not given, then the checks of the data.
+short complete(Database& db, const EntitySchema& schema, Parsed& p) {
+    EntMakeState& state = db.entMakeState();
     // Layer: given, the complex entity's for its parts, else the current layer.
     if (!findCode(p.data, 8)) {
-        std::wstring layer = isSub ? layerOf(db, state.complex.front()) : currentLayer();
+        std::wstring layer = isPart(p.type) ? layerOf(db, state.complex.front()) : currentLayer();
         if (p.type == "BLOCK" || p.type == "ENDBLK") layer = L"0";
         p.data.insert(p.data.begin(), stringGroup(8, layer));
     }
@@ -265,18 +271,17 @@ int makeEntity(Database& db, const resbuf* list) {
     }
     if (p.type == "LWPOLYLINE") orderLwpolyline(p.data);
     toFileForm(p.type, p.data);
-    if (short err = checkRequired(*schema, p.data)) return reject(err);
-    if (short err = checkProperties(db, p.type, p.data)) return reject(err);
-    if (short err = checkXdata(db, p.xdata)) return reject(err);
-    if (xdataSize(p.xdata) > kXdataRoom) return reject(kErrXdataTooBig);
+    if (short err = checkRequired(schema, p.data)) return err;
+    if (short err = checkProperties(db, p.type, p.data)) return err;
+    if (short err = checkXdata(db, p.xdata)) return err;
+    return xdataSize(p.xdata) > kXdataRoom ? kErrXdataTooBig : 0;
+}
 
-    int flags = p.type == "POLYLINE" ? polylineFlags(p)
-                : isSub             ? flagsOfDraft(db, state.complex.front())
-                                    : 0;
-    DraftRecord draft{p.type, draftBlob(db, *schema, p, flags), isSub ? RecordKind::SubEntity : RecordKind::Entity};
+// Where the made record goes: into the pending block or complex entity, or into the drawing.
+int place(Database& db, const Parsed& p, DraftRecord draft) {
+    EntMakeState& state = db.entMakeState();
     const Group* space = findCode(p.data, 67);
     bool paper = space && space->integer == 1;
-
     if (p.type == "BLOCK") {
         state.inBlock = true;
         draft.kind = RecordKind::BlockBegin;
@@ -289,12 +294,11 @@ int makeEntity(Database& db, const resbuf* list) {
         return commitBlock(db, draft);
     }
     const Group* follows = findCode(p.data, 66);
-    bool complexHead = p.type == "POLYLINE" || (p.type == "INSERT" && follows && follows->integer == 1);
-    if (complexHead) {
+    if (p.type == "POLYLINE" || (p.type == "INSERT" && follows && follows->integer == 1)) {
         state.complex = {std::move(draft)};
         return RTNORM;
     }
-    if (isSub) {
+    if (isPart(p.type)) {
         state.complex.push_back(std::move(draft));
         if (p.type != "SEQEND") return RTNORM;
         std::vector<DraftRecord> whole = std::move(state.complex);
@@ -304,6 +308,22 @@ int makeEntity(Database& db, const resbuf* list) {
     }
     commitToSpace(db, {std::move(draft)}, paper);
     return RTNORM;
+}
+
+}  // namespace
+
+int makeEntity(Database& db, const resbuf* list) {
+    Parsed p;
+    if (short err = parseList(db, list, p)) return reject(err);
+    const EntitySchema* schema = entitySchema(p.type);
+    if (!schema || (db.isR12() && !inR12(p.type))) return reject(kErrBadEntityType);
+    EntMakeState& state = db.entMakeState();
+    if (short err = checkSequence(state, p.type)) return reject(err);
+    if (short err = complete(db, *schema, p)) return reject(err);
+    bool part = isPart(p.type);
+    int flags = p.type == "POLYLINE" ? polylineFlags(p) : part ? flagsOfDraft(db, state.complex.front()) : 0;
+    DraftRecord draft{p.type, draftBlob(db, *schema, p, flags), part ? RecordKind::SubEntity : RecordKind::Entity};
+    return place(db, p, std::move(draft));
 }
 
 }  // namespace host::db

@@ -137,20 +137,10 @@ int fail(short err, int status) {
     return status;
 }
 
-}  // namespace
-
-int modifyEntity(Database& db, const resbuf* list) {
-    const resbuf* nameNode = list;
-    while (nameNode && nameNode->restype != -1) nameNode = nameNode->rbnext;
-    if (!nameNode) return fail(kErrBadName, RTERROR);
-    uint32_t index = db.indexOf(nameNode->resval.rlname);
-    if (index == kNone) return fail(kErrBadName, RTERROR);
-    Record& r = db.record(index);
-    if (r.deleted) return fail(kErrModifyDeleted, RTERROR);
-    const std::string type = db.typeName(r);
-    if (type == "SEQEND") return fail(kErrModifySeqend, RTREJ);
-
-    GroupList given, givenX;
+// The groups a list gives for the record: its own and its extended data. 0 or the ERRNO of
+// a list that would change the type or the handle or holds what no group can.
+short readGiven(const Database& db, const Record& r, const resbuf* list, GroupList& given, GroupList& givenX) {
+    const std::string& type = db.typeName(r);
     bool inXdata = false, inReactors = false;
     for (const resbuf* rb = list; rb; rb = rb->rbnext) {
         if (rb->restype == -3) {
@@ -159,48 +149,69 @@ int modifyEntity(Database& db, const resbuf* list) {
         }
         if (rb->restype == -1) continue;
         if (rb->restype == 0 && !inXdata) {
-            if (!rb->resval.rstring || toUtf8(upperAscii(rb->resval.rstring)) != type)
-                return fail(kErrChangeType, RTREJ);
+            if (!rb->resval.rstring || toUtf8(upperAscii(rb->resval.rstring)) != type) return kErrChangeType;
             continue;
         }
         Group g;
-        if (!resbufToGroup(db, rb, g)) return fail(inXdata ? kErrBadXdataType : kErrBadField, RTREJ);
+        if (!resbufToGroup(db, rb, g)) return inXdata ? kErrBadXdataType : kErrBadField;
         if (inXdata) {
             givenX.push_back(std::move(g));
             continue;
         }
         if ((g.code == 5 || g.code == 105) && !equalsNoCase(g.text, fromUtf8(handleText(r.handle))))
-            return fail(kErrChangeHandle, RTREJ);
+            return kErrChangeHandle;
         if (g.code == 102) inReactors = !g.text.empty() && g.text[0] == L'{';
         if (g.code == 102 || inReactors || fixedByDatabase(g.code)) continue;
-        if (g.code >= 1000) return fail(kErrBadAppId, RTREJ);
+        if (g.code >= 1000) return kErrBadAppId;
         given.push_back(std::move(g));
     }
+    return 0;
+}
 
+// The groups given whose value the record does not hold yet: those to check.
+GroupList changedGroups(const GroupList& data, const GroupList& given) {
+    GroupList changed;
+    for (const auto& g : given) {
+        bool held = false;
+        for (const auto& o : data) held |= o.code == g.code && o.sameValue(g);
+        if (!held) changed.push_back(g);
+    }
+    return changed;
+}
+
+// The flags of the polyline a POLYLINE or VERTEX record belongs to (they choose subclasses).
+int polylineFlagsOf(const Database& db, uint32_t index) {
+    const Record& r = db.record(index);
+    const std::string& type = db.typeName(r);
+    if (type != "POLYLINE" && type != "VERTEX") return 0;
+    uint32_t head = type == "VERTEX" ? r.main : index;
+    if (head == kNone) return 0;
+    GroupList h;
+    decodeGroups(db, db.record(head).groups, h, nullptr);
+    const Group* f = findCode(h, 70);
+    return f ? static_cast<int>(f->integer) : 0;
+}
+
+}  // namespace
+
+int modifyEntity(Database& db, const resbuf* list) {
+    const resbuf* nameNode = list;
+    while (nameNode && nameNode->restype != -1) nameNode = nameNode->rbnext;
+    uint32_t index = nameNode ? db.indexOf(nameNode->resval.rlname) : kNone;
+    if (index == kNone) return fail(kErrBadName, RTERROR);
+    Record& r = db.record(index);
+    if (r.deleted) return fail(kErrModifyDeleted, RTERROR);
+    const std::string type = db.typeName(r);
+    if (type == "SEQEND") return fail(kErrModifySeqend, RTREJ);
+
+    GroupList given, givenX;
+    if (short err = readGiven(db, r, list, given, givenX)) return fail(err, RTREJ);
     GroupList data, xdata;
     decodeGroups(db, r.groups, data, &xdata);
     toListForm(type, data);
-    GroupList changed;
-    for (const auto& g : given) {
-        const Group* old = nullptr;
-        for (const auto& o : data)
-            if (o.code == g.code && o.sameValue(g)) old = &o;
-        if (!old) changed.push_back(g);
-    }
     if (r.kind == RecordKind::Entity || r.kind == RecordKind::SubEntity)
-        if (short err = checkProperties(db, type, changed)) return fail(err, RTREJ);
-
-    const EntitySchema* schema = entitySchema(type);
-    int flags = 0;
-    if (type == "POLYLINE" || type == "VERTEX") {
-        uint32_t head = type == "VERTEX" ? r.main : index;
-        if (head != kNone) {
-            GroupList h;
-            decodeGroups(db, db.record(head).groups, h, nullptr);
-            if (const Group* f = findCode(h, 70)) flags = static_cast<int>(f->integer);
-        }
-    }
-    mergeData(data, given, schema, flags, type == "LWPOLYLINE");
+        if (short err = checkProperties(db, type, changedGroups(data, given))) return fail(err, RTREJ);
+    mergeData(data, given, entitySchema(type), polylineFlagsOf(db, index), type == "LWPOLYLINE");
     toFileForm(type, data);
     if (short err = mergeXdata(db, xdata, givenX)) return fail(err, RTREJ);
     std::string blob;

@@ -66,9 +66,10 @@ TEST(DxfReader, StructuresOfOtherWriters) {
                         "  0\nENDSEC\n  0\nEOF\n";
     db = parseOk(mixed);
     EXPECT_EQ(handlesOf(*db), (std::set<uint64_t>{1, 2, 3}));
+    auto written = parseOk(db->dxfText());
     uint64_t seed = 0;
-    ASSERT_TRUE(host::db::parseHandle(db->headerValue("$HANDSEED", 5), seed));
-    EXPECT_EQ(seed, 4u);
+    ASSERT_TRUE(host::db::parseHandle(written->headerValue("$HANDSEED", 5), seed));
+    EXPECT_EQ(seed, 4u) << "the written seed lies above every handle";
 
     // A handle used twice: both entities stay, the second gets a new handle, and it is said.
     std::string twice = header + "  0\nSECTION\n  2\nENTITIES\n"
