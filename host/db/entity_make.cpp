@@ -183,12 +183,13 @@ int commitBlock(Database& db, const DraftRecord& end) {
     GroupList begin;
     decodeGroups(db, state.blockBegin.groups, begin, nullptr);
     Group* name = findCode(begin, 2);
-    Group* flags = findCode(begin, 70);
-    if ((name->text.size() >= 2 && name->text[0] == L'*') && flags && (flags->integer & 1))
-        name->text = anonymousName(db, name->text);
-    if (Group* three = findCode(begin, 3)) *three = stringGroup(3, name->text);
-    else if (!db.isR12()) begin.push_back(stringGroup(3, name->text));
+    const Group* flags = findCode(begin, 70);
     std::wstring blockName = name->text;
+    if (blockName.size() >= 2 && blockName[0] == L'*' && flags && (flags->integer & 1))
+        blockName = anonymousName(db, blockName);  // "*U" becomes "*U1", "*U2" ...
+    *name = stringGroup(2, blockName);
+    if (Group* three = findCode(begin, 3)) *three = stringGroup(3, blockName);
+    else if (!db.isR12()) begin.push_back(stringGroup(3, blockName));
 
     // A definition of an existing name replaces the old one; the block record stays.
     uint32_t old = db.findBlock(blockName);

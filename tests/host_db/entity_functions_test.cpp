@@ -356,3 +356,51 @@ TEST_F(EntityFunctions, AnglesAreRadiansInListsAndDegreesInTheFile) {
 
 }  // namespace
 }  // namespace dbtest
+
+namespace dbtest {
+namespace {
+
+TEST_F(EntityFunctions, AnonymousBlocksAreNamedAndLayoutBlocksAreNotListed) {
+    const double o[3] = {0, 0, 0};
+    for (int i = 0; i < 2; ++i) {
+        host::RbPtr block(acutBuildList(RTDXF0, L"BLOCK", 2, L"*U", 70, 1, 10, o, 0));
+        ASSERT_EQ(acdbEntMake(block.get()), RTNORM);
+        host::RbPtr circle(acutBuildList(RTDXF0, L"CIRCLE", 10, o, 40, 1.0 + i, 0));
+        ASSERT_EQ(acdbEntMake(circle.get()), RTNORM);
+        host::RbPtr end(acutBuildList(RTDXF0, L"ENDBLK", 0));
+        ASSERT_EQ(acdbEntMake(end.get()), RTNORM);
+    }
+    std::vector<std::wstring> names;
+    for (host::RbPtr e(acdbTblNext(L"BLOCK", 1)); e; e.reset(acdbTblNext(L"BLOCK", 0)))
+        names.push_back(find(e.get(), 2)->resval.rstring);
+    EXPECT_EQ(names, (std::vector<std::wstring>{L"*U1", L"*U2"}));
+
+    // A definition of an existing name replaces the old one.
+    host::RbPtr again(acutBuildList(RTDXF0, L"BLOCK", 2, L"*U1", 70, 0, 10, o, 0));
+    ASSERT_EQ(acdbEntMake(again.get()), RTNORM);
+    host::RbPtr point(acutBuildList(RTDXF0, L"POINT", 10, o, 0));
+    ASSERT_EQ(acdbEntMake(point.get()), RTNORM);
+    host::RbPtr end(acutBuildList(RTDXF0, L"ENDBLK", 0));
+    ASSERT_EQ(acdbEntMake(end.get()), RTNORM);
+    host::RbPtr entry(acdbTblSearch(L"BLOCK", L"*u1", 0));
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(std::wstring(find(get(find(entry.get(), -2)->resval.rlname).get(), 0)->resval.rstring), L"POINT");
+    std::string file = db().dxfText();
+    EXPECT_EQ(file.find("\r\nCIRCLE\r\n  5\r\n"), file.rfind("\r\nCIRCLE\r\n  5\r\n")) << "one circle left";
+}
+
+TEST_F(EntityFunctions, EntModOfATableEntry) {
+    host::RbPtr entry(acdbTblSearch(L"LAYER", L"0", 0));
+    ASSERT_NE(entry, nullptr);
+    // The layer record's own entity name comes from the BLOCK_RECORD walk: by handle here.
+    uint32_t layer = db().findEntry("LAYER", L"0");
+    ads_name e;
+    db().nameOf(layer, e);
+    host::RbPtr change(acutBuildList(-1, e, 62, 5, 0));
+    ASSERT_EQ(acdbEntMod(change.get()), RTNORM);
+    entry.reset(acdbTblSearch(L"LAYER", L"0", 0));
+    EXPECT_EQ(find(entry.get(), 62)->resval.rint, 5);
+}
+
+}  // namespace
+}  // namespace dbtest

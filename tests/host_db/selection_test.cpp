@@ -303,3 +303,25 @@ TEST_F(Geometry, PickLastPreviousAndInteractiveModes) {
 
 }  // namespace
 }  // namespace dbtest
+
+namespace dbtest {
+namespace {
+
+TEST_F(Selection, DeletedFrozenAndPaperSpaceEntities) {
+    const double a[3] = {1, 1, 0}, b[3] = {2, 2, 0};
+    std::wstring kept = make(acutBuildList(RTDXF0, L"LINE", 8, L"SHOWN", 10, a, 11, b, 0));
+    std::wstring frozen = make(acutBuildList(RTDXF0, L"LINE", 8, L"COLD", 10, a, 11, b, 0));
+    std::wstring paper = make(acutBuildList(RTDXF0, L"LINE", 67, 1, 10, a, 11, b, 0));
+    make(acutBuildList(RTDXF0, L"LINE", 10, a, 11, b, 0));
+    ads_name gone;
+    ASSERT_EQ(acdbEntLast(gone), RTNORM);
+    ASSERT_EQ(acdbEntDel(gone), RTNORM);
+    ASSERT_EQ(acedCommand(RTSTR, L"LAYER", RTSTR, L"F", RTSTR, L"COLD", RTSTR, L"", 0), RTNORM);
+    EXPECT_EQ(select(L"X", nullptr, nullptr, nullptr), (std::set<std::wstring>{kept, frozen, paper}));
+    EXPECT_EQ(select(L"A", nullptr, nullptr, nullptr), (std::set<std::wstring>{kept, paper}));
+    const double w1[3] = {0, 0, 0}, w2[3] = {3, 3, 0};
+    EXPECT_EQ(select(L"W", w1, w2, nullptr), (std::set<std::wstring>{kept, frozen})) << "model space only";
+}
+
+}  // namespace
+}  // namespace dbtest
