@@ -1,7 +1,8 @@
 // Selection sets of the host interface. acedSSGet selects from the current drawing by mode:
 // "X" everything (with a filter), "A" everything on layers not frozen, "W"/"C" window and
 // crossing, "WP"/"CP" polygons, "F" fence, "L" the last entity, "P" the previous set, and a
-// pick at a point. The interactive modes have no user to ask and answer RTCAN.
+// pick at a point. The interactive modes take the next entity pick queued for the session
+// (one pick, as a single selection) and answer RTCAN when none is queued.
 #include <cmath>
 
 #include "acdbads.h"
@@ -192,7 +193,15 @@ int selectEntities(Database& db, const ACHAR* str, const void* pt1, const void* 
         break;
     case Mode::Implied: break;  // a headless editor has no set picked before the command
     case Mode::Pick: members = pickAt(db, filter, static_cast<const double*>(pt1)); break;
-    case Mode::Interactive: return RTCAN;
+    case Mode::Interactive: {
+        ads_name picked;
+        ads_point at;
+        if (acedEntSel(L"\nSelect objects: ", picked, at) != RTNORM) return RTCAN;
+        uint32_t index = db.indexOf(picked);
+        if (index != kNone && db.record(index).kind == RecordKind::SubEntity) index = db.record(index).main;
+        if (index != kNone && !db.record(index).deleted && filter.matches(db, index)) members = {index};
+        break;
+    }
     }
     return RTNORM;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "host/runtime/input.h"
 #include "tests/host_db/db_fixture.h"
 
 namespace dbtest {
@@ -299,6 +300,13 @@ TEST_F(Geometry, PickLastPreviousAndInteractiveModes) {
     ads_name ss;
     EXPECT_EQ(acedSSGet(nullptr, nullptr, nullptr, nullptr, ss), RTCAN);
     EXPECT_EQ(acedSSGet(L":S", nullptr, nullptr, nullptr, ss), RTCAN);
+    // A queued pick answers an interactive selection.
+    ads_name circle;
+    ASSERT_EQ(acdbHandEnt(circle_.c_str(), circle), RTNORM);
+    const double at[3] = {55, 50, 0};
+    host::queueEntityPick(circle, at);
+    EXPECT_EQ(select(nullptr, nullptr, nullptr, nullptr), (std::set<std::wstring>{circle_}));
+    EXPECT_EQ(acedSSGet(nullptr, nullptr, nullptr, nullptr, ss), RTCAN) << "the queue is used up";
 }
 
 }  // namespace
