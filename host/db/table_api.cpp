@@ -32,9 +32,12 @@ bool entryCode(int code) {
            (code >= 270 && code <= 289);
 }
 
+// Model and paper space (spelled with $ in R12 files) are no blocks a user defined.
 bool isLayoutBlock(const std::wstring& name) {
     std::wstring upper = upperAscii(name);
-    return upper.rfind(L"*MODEL_SPACE", 0) == 0 || upper.rfind(L"*PAPER_SPACE", 0) == 0;
+    for (const wchar_t* prefix : {L"*MODEL_SPACE", L"*PAPER_SPACE", L"$MODEL_SPACE", L"$PAPER_SPACE"})
+        if (upper.rfind(prefix, 0) == 0) return true;
+    return false;
 }
 
 resbuf* entryList(const Database& db, std::wstring_view table, uint32_t record, uint32_t block) {
