@@ -238,19 +238,19 @@ bool isPart(const std::string& type) { return type == "VERTEX" || type == "ATTRI
 // Whether the entity fits where the making stands: parts after their head, ENDBLK after
 // BLOCK; 0 or the ERRNO value. An unfinished complex entity is dropped by anything else.
 short checkSequence(EntMakeState& state, const std::string& type) {
+    if (type == "ENDBLK") {
+        if (!state.inBlock) return kErrBadBlockDefinition;
+        if (!state.complex.empty()) {  // the block would end inside a polyline or an insert
+            state.clearComplex();
+            return kErrIncompleteComplex;
+        }
+    }
     bool part = isPart(type);
     if (!part && !state.complex.empty()) state.clearComplex();
     if (part) {
         if (state.complex.empty()) return type == "ATTRIB" ? kErrBadEntityType : kErrBadPolyline;
         bool polyline = state.complex.front().type == "POLYLINE";
         if (type != "SEQEND" && (type == "VERTEX") != polyline) return kErrBadEntityType;
-    }
-    if (type == "ENDBLK") {
-        if (!state.inBlock) return kErrBadBlockDefinition;
-        if (!state.complex.empty()) {
-            state.clearComplex();
-            return kErrIncompleteComplex;
-        }
     }
     if (type == "BLOCK" && state.inBlock) return kErrBadBlockDefinition;
     return 0;
