@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cwchar>
 #include <cwctype>
+#include <cstdio>
 
 #include "acdbads.h"
 #include "acedads.h"
@@ -85,6 +86,19 @@ bool pointText(std::wstring_view text, double ucs[3]) {
     return true;
 }
 
+// An answer as the command line shows it.
+std::wstring echoOf(const CommandToken& t) {
+    wchar_t buf[96];
+    switch (t.type) {
+    case RTSTR: return t.text;
+    case RTREAL:
+    case RTSHORT: std::swprintf(buf, 96, L"%g", t.real); return buf;
+    case RTPOINT: std::swprintf(buf, 96, L"%g,%g", t.point[0], t.point[1]); return buf;
+    case RT3DPOINT: std::swprintf(buf, 96, L"%g,%g,%g", t.point[0], t.point[1], t.point[2]); return buf;
+    default: return L"";
+    }
+}
+
 }  // namespace
 
 SysVars& vars() { return Host::instance().current().sysvars(); }
@@ -93,10 +107,7 @@ db::Database& database() { return Host::instance().current().database(); }
 const CommandToken* ask(CommandInput& in, std::wstring_view promptText) {
     if (echoOn()) acutPrintf(L"%ls", std::wstring(promptText).c_str());
     const CommandToken* t = in.next();
-    if (echoOn() && t) {
-        if (t->type == RTSTR) acutPrintf(L"%ls\n", t->text.c_str());
-        else acutPrintf(L"\n");
-    }
+    if (echoOn() && t) acutPrintf(L"%ls\n", echoOf(*t).c_str());
     return t;
 }
 
