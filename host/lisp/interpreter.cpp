@@ -40,6 +40,7 @@ void pointArg(const ValuePtr& v, double point[3]) {
 Interpreter::Interpreter() {
     addCoreBuiltins(*this);
     addSystemBuiltins(*this);
+    addDrawingBuiltins(*this);
     addHeadlessBuiltins(*this);
 }
 

@@ -65,6 +65,38 @@ class Evaluation(unittest.TestCase):
             self.assertEqual(code, 0)
 
 
+class Drawing(unittest.TestCase):
+    def test_entities_made_in_a_script_are_saved_and_read_back_by_ezdxf(self):
+        import ezdxf
+        with tempfile.TemporaryDirectory() as d:
+            out = os.path.join(d, "made.dxf")
+            code, text, err = run(
+                "-e", '(entmake (list (cons 0 "LINE") (cons 8 "0") (list 10 1.0 2.0 0.0) (list 11 4.0 6.0 0.0)))',
+                "-e", "(cdr (assoc 11 (entget (entlast))))",
+                "-e", '(sslength (ssget "X" (list (cons 0 "LINE"))))',
+                "-e", '(ssget "X" (list (cons 0 "CIRCLE")))',
+                "--save", out)
+            self.assertEqual(code, 0, err)
+            self.assertEqual(text.splitlines()[1:], ["(4.0 6.0 0.0)", "1", "nil"])
+            doc = ezdxf.readfile(out)
+            lines = list(doc.modelspace().query("LINE"))
+            self.assertEqual(len(lines), 1)
+            self.assertEqual(tuple(lines[0].dxf.end), (4.0, 6.0, 0.0))
+            self.assertEqual(len(doc.audit().errors), 0)
+
+    def test_a_script_error_leaves_the_saved_drawing_alone(self):
+        with tempfile.TemporaryDirectory() as d:
+            out = os.path.join(d, "kept.dxf")
+            with open(out, "w") as f:
+                f.write("previous contents")
+            code, _, err = run("-e", '(entmake (list (cons 0 "POINT") (list 10 0.0 0.0 0.0)))', "-e", "(zz-undefined)",
+                               "--save", out)
+            self.assertEqual(code, 1)
+            self.assertIn("not saved", err)
+            with open(out) as f:
+                self.assertEqual(f.read(), "previous contents")
+
+
 class BadInput(unittest.TestCase):
     def test_bad_options_and_unreadable_files_give_status_2(self):
         for args in (["--bogus"], ["--root"], ["/no/such/script.lsp"], ["--reg", "novalue"],
