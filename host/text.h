@@ -14,4 +14,7 @@ std::wstring fromUtf8(std::string_view text);
 std::wstring upperAscii(std::wstring_view text);
 bool equalsNoCase(std::wstring_view a, std::wstring_view b);
 
+// Without the blanks and tabs around it, as values stand on the lines of a DXF file.
+std::string_view trimBlanks(std::string_view text);
+
 }  // namespace host

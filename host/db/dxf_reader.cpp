@@ -11,14 +11,8 @@
 namespace host::db {
 namespace {
 
-std::string_view trim(std::string_view s) {
-    while (!s.empty() && (s.front() == ' ' || s.front() == '\t')) s.remove_prefix(1);
-    while (!s.empty() && (s.back() == ' ' || s.back() == '\t')) s.remove_suffix(1);
-    return s;
-}
-
 bool parseReal(std::string_view s) {
-    s = trim(s);
+    s = trimBlanks(s);
     if (!s.empty() && s.front() == '+') s.remove_prefix(1);
     if (s.empty()) return false;
     double v;
@@ -27,7 +21,7 @@ bool parseReal(std::string_view s) {
 }
 
 bool parseInteger(std::string_view s) {
-    s = trim(s);
+    s = trimBlanks(s);
     if (!s.empty() && s.front() == '+') s.remove_prefix(1);
     if (s.empty()) return false;
     long long v;
@@ -108,7 +102,7 @@ bool DxfReader::next(Group& g) {
     std::string_view codeLine;
     if (!nextLine(codeLine)) return false;
     size_t codeLineNo = line_;
-    std::string_view digits = trim(codeLine);
+    std::string_view digits = trimBlanks(codeLine);
     int code = 0;
     auto r = std::from_chars(digits.data(), digits.data() + digits.size(), code);
     if (digits.empty() || r.ec != std::errc() || r.ptr != digits.data() + digits.size() ||
@@ -142,7 +136,7 @@ bool DxfReader::read(std::string_view text, std::wstring& error) {
         db_.format().bom = true;
         text.remove_prefix(3);
     }
-    if (trim(text).empty()) return fail(1, L"the file is empty");
+    if (trimBlanks(text).empty()) return fail(1, L"the file is empty");
     text_ = text;
     const char* nl = static_cast<const char*>(std::memchr(text.data(), '\n', text.size()));
     db_.format().eol = (nl && nl > text.data() && nl[-1] == '\r') ? "\r\n" : "\n";
@@ -150,7 +144,7 @@ bool DxfReader::read(std::string_view text, std::wstring& error) {
     Group g;
     bool sawEof = false;
     while (error.empty() && next(g)) {
-        std::string_view word = trim(g.value);
+        std::string_view word = trimBlanks(g.value);
         if (g.code == 999) {
             db_.comments().emplace_back(g.value);
         } else if (g.code == 0 && word == "SECTION") {
@@ -173,7 +167,7 @@ bool DxfReader::readSection(const Group& start) {
     if (!next(g) || g.code != 2)
         return error_->empty() ? fail(start.line, L"SECTION without a name (group 2)") : false;
     Section section;
-    section.name = std::string(trim(g.value));
+    section.name = std::string(trimBlanks(g.value));
     section.kind = sectionKind(section.name);
     if (section.kind != SectionKind::Header) {
         // Some sections (THUMBNAILIMAGE) hold groups of their own before any record.
@@ -206,11 +200,11 @@ bool DxfReader::readHeader() {
     size_t current = kNone;
     while (next(g)) {
         if (g.code == 0) {
-            if (trim(g.value) == "ENDSEC") return true;
+            if (trimBlanks(g.value) == "ENDSEC") return true;
             return fail(g.line, L"unexpected " + quoted(g.value) + L" in the HEADER section");
         }
         if (g.code == 9) {
-            db_.header_.push_back(HeaderVar{std::string(trim(g.value)), {}});
+            db_.header_.push_back(HeaderVar{std::string(trimBlanks(g.value)), {}});
             current = db_.header_.size() - 1;
             continue;
         }
@@ -223,7 +217,7 @@ bool DxfReader::readHeader() {
 }
 
 bool DxfReader::readRecord(const Group& start, RecordKind kind, uint32_t& index) {
-    std::string_view type = trim(start.value);
+    std::string_view type = trimBlanks(start.value);
     std::string groups;
     uint64_t handle = 0;
     bool haveHandle = false;
@@ -248,7 +242,7 @@ bool DxfReader::readRecord(const Group& start, RecordKind kind, uint32_t& index)
 bool DxfReader::readTables() {
     Group g;
     while (next(g)) {
-        std::string_view word = trim(g.value);
+        std::string_view word = trimBlanks(g.value);
         if (g.code == 0 && word == "ENDSEC") return true;
         if (g.code != 0 || word != "TABLE")
             return fail(g.line, L"expected \"0 TABLE\" or \"0 ENDSEC\" in the TABLES section, found " +
@@ -257,10 +251,10 @@ bool DxfReader::readTables() {
         Table table;
         if (!readRecord(g, RecordKind::TableHead, table.head)) return false;
         std::string_view name;
-        if (findGroup(db_.records_[table.head].groups, 2, name)) table.name = upper(trim(name));
+        if (findGroup(db_.records_[table.head].groups, 2, name)) table.name = upper(trimBlanks(name));
         bool closed = false;
         while (next(g)) {
-            std::string_view type = trim(g.value);
+            std::string_view type = trimBlanks(g.value);
             if (type == "ENDTAB") {
                 if (!readRecord(g, RecordKind::TableEnd, table.end)) return false;
                 closed = true;
@@ -282,7 +276,7 @@ bool DxfReader::readTables() {
 bool DxfReader::readBlocks() {
     Group g;
     while (next(g)) {
-        std::string_view word = trim(g.value);
+        std::string_view word = trimBlanks(g.value);
         if (g.code == 0 && word == "ENDSEC") return true;
         if (g.code != 0 || word != "BLOCK")
             return fail(g.line, L"expected \"0 BLOCK\" or \"0 ENDSEC\" in the BLOCKS section, found " +
@@ -314,7 +308,7 @@ bool DxfReader::readEntityList(std::vector<uint32_t>& into, uint32_t block, std:
                                Group& end) {
     Group g;
     while (next(g)) {
-        std::string_view type = trim(g.value);
+        std::string_view type = trimBlanks(g.value);
         if (g.code != 0)
             return fail(g.line, L"expected \"0\" and an entity type, found group " +
                                     std::to_wstring(g.code));
@@ -333,7 +327,7 @@ bool DxfReader::readEntityList(std::vector<uint32_t>& into, uint32_t block, std:
         std::string_view follows;
         bool polyline = type == "POLYLINE";
         bool attributes = type == "INSERT" && findGroup(db_.records_[index].groups, 66, follows) &&
-                          trim(follows) == "1";
+                          trimBlanks(follows) == "1";
         if ((polyline || attributes) && !readParts(index, std::string(type), g.line, into, block)) return false;
     }
     return false;
@@ -352,7 +346,7 @@ bool DxfReader::readParts(uint32_t head, const std::string& type, size_t headLin
     bool anyPart = false;
     Group g;
     while (next(g)) {
-        std::string_view t = trim(g.value);
+        std::string_view t = trimBlanks(g.value);
         if (t == partType || t == "SEQEND") {
             uint32_t part;
             if (!readRecord(g, RecordKind::SubEntity, part)) return false;
@@ -379,7 +373,7 @@ bool DxfReader::readRecords(Section& section) {
     Group g;
     RecordKind kind = section.kind == SectionKind::Objects ? RecordKind::Object : RecordKind::Other;
     while (next(g)) {
-        std::string_view type = trim(g.value);
+        std::string_view type = trimBlanks(g.value);
         if (g.code != 0)
             return fail(g.line, L"expected \"0\" and an object type, found group " +
                                     std::to_wstring(g.code));
@@ -458,9 +452,9 @@ void DxfReader::giveHandles() {
 }
 
 bool DxfReader::finish() {
-    std::string acadver(trim(db_.headerValue("$ACADVER", 1)));
+    std::string acadver(trimBlanks(db_.headerValue("$ACADVER", 1)));
     if (acadver.empty()) acadver = "AC1009";
-    db_.setVersion(acadver, trim(db_.headerValue("$DWGCODEPAGE", 3)));
+    db_.setVersion(acadver, trimBlanks(db_.headerValue("$DWGCODEPAGE", 3)));
     giveHandles();
     db_.indexAll();
     return true;

@@ -5,19 +5,14 @@
 #include <cstdlib>
 
 #include "host/db/blob.h"
+#include "host/text.h"
 #include "host/db/database.h"
 
 namespace host::db {
 namespace {
 
-std::string_view trim(std::string_view s) {
-    while (!s.empty() && (s.front() == ' ' || s.front() == '\t')) s.remove_prefix(1);
-    while (!s.empty() && (s.back() == ' ' || s.back() == '\t')) s.remove_suffix(1);
-    return s;
-}
-
 double toReal(std::string_view s) {
-    s = trim(s);
+    s = trimBlanks(s);
     if (!s.empty() && s.front() == '+') s.remove_prefix(1);
     double v = 0.0;
     std::from_chars(s.data(), s.data() + s.size(), v);
@@ -25,7 +20,7 @@ double toReal(std::string_view s) {
 }
 
 long long toInteger(std::string_view s) {
-    s = trim(s);
+    s = trimBlanks(s);
     if (!s.empty() && s.front() == '+') s.remove_prefix(1);
     long long v = 0;
     auto r = std::from_chars(s.data(), s.data() + s.size(), v);
@@ -41,7 +36,7 @@ int hexValue(char c) {
 }
 
 std::string fromHex(std::string_view s) {
-    s = trim(s);
+    s = trimBlanks(s);
     std::string out;
     out.reserve(s.size() / 2);
     for (size_t i = 0; i + 1 < s.size(); i += 2) {
