@@ -11,29 +11,11 @@ using host::RbPtr;
 
 constexpr double kPi = 3.14159265358979323846;
 
-std::wstring text(const resbuf* rb) { return rb && rb->resval.rstring ? rb->resval.rstring : L""; }
-
 class Break : public DrawingTest {
 protected:
     void make(resbuf* list) {
         RbPtr owned(list);
         ASSERT_EQ(acdbEntMake(list), RTNORM);
-    }
-    std::vector<RbPtr> all(const wchar_t* type) {
-        std::vector<RbPtr> out;
-        RbPtr filter(acutBuildList(RTDXF0, type, 0));
-        ads_name ss;
-        if (acedSSGet(L"X", nullptr, nullptr, filter.get(), ss) != RTNORM) return out;
-        long n = 0;
-        acedSSLength(ss, &n);
-        for (long i = 0; i < n; ++i) {
-            ads_name e;
-            acedSSName(ss, i, e);
-            RbPtr apps(acutBuildList(RTSTR, L"*", 0));
-            out.emplace_back(acdbEntGetX(e, apps.get()));
-        }
-        acedSSFree(ss);
-        return out;
     }
     int breakF(const ads_name e, const double p1[3], const double p2[3]) {
         return acedCommand(RTSTR, L"_.BREAK", RTENAME, e, RTSTR, L"_F", RTPOINT, p1, RTPOINT, p2, 0);

@@ -9,8 +9,6 @@ namespace {
 
 using host::RbPtr;
 
-std::wstring text(const resbuf* rb) { return rb && rb->resval.rstring ? rb->resval.rstring : L""; }
-
 class CommandInput : public DrawingTest {
 protected:
     RbPtr lastEntity() {

@@ -10,27 +10,8 @@ namespace {
 
 using host::RbPtr;
 
-std::wstring text(const resbuf* rb) { return rb && rb->resval.rstring ? rb->resval.rstring : L""; }
-
 class Commands : public DrawingTest {
 protected:
-    // Entity lists of the live entities of a type, in drawing order.
-    std::vector<RbPtr> all(const wchar_t* type) {
-        std::vector<RbPtr> out;
-        RbPtr filter(acutBuildList(RTDXF0, type, 0));
-        ads_name ss;
-        if (acedSSGet(L"X", nullptr, nullptr, filter.get(), ss) != RTNORM) return out;
-        long n = 0;
-        acedSSLength(ss, &n);
-        for (long i = 0; i < n; ++i) {
-            ads_name e;
-            acedSSName(ss, i, e);
-            RbPtr apps(acutBuildList(RTSTR, L"*", 0));
-            out.emplace_back(acdbEntGetX(e, apps.get()));
-        }
-        acedSSFree(ss);
-        return out;
-    }
     RbPtr layer(const wchar_t* name) { return RbPtr(acdbTblSearch(L"LAYER", name, 0)); }
     std::wstring var(const wchar_t* name) {
         const host::SysVarValue* v = doc().sysvars().find(name);

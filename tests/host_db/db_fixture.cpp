@@ -61,4 +61,21 @@ std::string dxf(const std::vector<std::pair<int, std::string>>& groups) {
     return out;
 }
 
+std::vector<host::RbPtr> DrawingTest::all(const wchar_t* type) {
+    std::vector<host::RbPtr> out;
+    host::RbPtr filter(acutBuildList(RTDXF0, type, 0));
+    ads_name ss;
+    if (acedSSGet(L"X", nullptr, nullptr, filter.get(), ss) != RTNORM) return out;
+    long n = 0;
+    acedSSLength(ss, &n);
+    for (long i = 0; i < n; ++i) {
+        ads_name e;
+        acedSSName(ss, i, e);
+        host::RbPtr apps(acutBuildList(RTSTR, L"*", 0));
+        out.emplace_back(acdbEntGetX(e, apps.get()));
+    }
+    acedSSFree(ss);
+    return out;
+}
+
 }  // namespace dbtest

@@ -34,12 +34,17 @@ protected:
     void makeLine(const double a[3], const double b[3], const wchar_t* layer = nullptr);
     void last(ads_name e);
     host::RbPtr get(const ads_name e) { return host::RbPtr(acdbEntGet(e)); }
+    // Entity lists, with all extended data, of the live entities of a type, in drawing order.
+    std::vector<host::RbPtr> all(const wchar_t* type);
     // The first node with the code, or null.
     static const resbuf* find(const resbuf* rb, int code, int occurrence = 0);
 
 private:
     std::unique_ptr<host::OutputCapture> capture_;
 };
+
+// The string of a node, or "" for none.
+inline std::wstring text(const resbuf* rb) { return rb && rb->resval.rstring ? rb->resval.rstring : L""; }
 
 // Runs a command through acedCmd from a list built with acutBuildList.
 int command(resbuf* list);

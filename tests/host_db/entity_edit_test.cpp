@@ -11,8 +11,6 @@ namespace {
 
 using host::RbPtr;
 
-std::wstring text(const resbuf* rb) { return rb && rb->resval.rstring ? rb->resval.rstring : L""; }
-
 int count(const resbuf* rb, int code) {
     int n = 0;
     for (; rb; rb = rb->rbnext) n += rb->restype == code;

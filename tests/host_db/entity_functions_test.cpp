@@ -15,8 +15,6 @@ using host::RbPtr;
 const double kA[3] = {1, 2, 0};
 const double kB[3] = {11, 12, 0};
 
-std::wstring text(const resbuf* rb) { return rb && rb->resval.rstring ? rb->resval.rstring : L""; }
-
 class EntityFunctions : public DrawingTest {};
 
 TEST_F(EntityFunctions, EntGetStartsWithNameThenTypeAndKeepsPointsWhole) {

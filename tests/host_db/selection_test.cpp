@@ -11,8 +11,6 @@ namespace {
 
 using host::RbPtr;
 
-std::wstring text(const resbuf* rb) { return rb && rb->resval.rstring ? rb->resval.rstring : L""; }
-
 class Selection : public DrawingTest {
 protected:
     // Makes an entity and returns the text of its group 5 as a label for it.

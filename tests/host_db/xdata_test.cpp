@@ -12,8 +12,6 @@ using host::RbPtr;
 const double kA[3] = {0, 0, 0};
 const double kB[3] = {100, 0, 0};
 
-std::wstring text(const resbuf* rb) { return rb && rb->resval.rstring ? rb->resval.rstring : L""; }
-
 class Xdata : public DrawingTest {
 protected:
     void SetUp() override {
