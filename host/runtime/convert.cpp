@@ -40,16 +40,11 @@ private:
 };
 
 bool isPointList(const ValuePtr& v) {
-    if (!v || v->kind != Kind::Cons) return false;
-    auto items = listItems(v);
     size_t n = 0;
-    for (ValuePtr p = v; p && p->kind == Kind::Cons; p = p->cdr) ++n;
-    ValuePtr tail = v;
-    while (tail && tail->kind == Kind::Cons) tail = tail->cdr;
-    if (!isNil(tail) || (n != 2 && n != 3)) return false;
-    for (auto& item : items)
-        if (!isNumber(item)) return false;
-    return true;
+    ValuePtr p = v;
+    for (; p && p->kind == Kind::Cons; p = p->cdr, ++n)
+        if (!isNumber(p->car)) return false;
+    return isNil(p) && (n == 2 || n == 3);
 }
 
 void addValue(ChainBuilder& out, const ValuePtr& v) {
@@ -210,9 +205,8 @@ const resbuf* readOne(const resbuf* rb, ValuePtr& out) {
         return rb->rbnext;
     }
     if (rb->restype == -3) return readXdata(rb->rbnext, out);
-    ValuePtr value = groupValue(rb);
-    if (groupType(rb->restype) == GroupType::Point) out = cons(makeInt(rb->restype), value);
-    else out = cons(makeInt(rb->restype), value);
+    // (code . value); a point's value is its coordinate list, giving (code x y z).
+    out = cons(makeInt(rb->restype), groupValue(rb));
     return rb->rbnext;
 }
 
