@@ -9,6 +9,7 @@ extern "C" {
 
 FILE* _wfopen(const wchar_t* filename, const wchar_t* mode);
 int _wremove(const wchar_t* filename);
+int _wunlink(const wchar_t* filename);
 int _wrename(const wchar_t* oldname, const wchar_t* newname);
 
 #ifdef __cplusplus

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <string>
 
+#include <unistd.h>
+
 #include "host/text.h"
 #include "wchar_io.h"
 
@@ -32,6 +34,11 @@ extern "C" FILE* _wfopen(const wchar_t* filename, const wchar_t* mode) {
 extern "C" int _wremove(const wchar_t* filename) {
     if (!filename) return -1;
     return std::remove(host::nativePath(filename).c_str());
+}
+
+extern "C" int _wunlink(const wchar_t* filename) {
+    if (!filename) return -1;
+    return ::unlink(host::nativePath(filename).c_str());
 }
 
 extern "C" int _wrename(const wchar_t* oldname, const wchar_t* newname) {

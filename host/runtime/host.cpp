@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 
 #include <algorithm>
+#include <clocale>
 
 #include "acutads.h"
 #include "adscodes.h"
@@ -30,6 +31,9 @@ void Document::setFileName(std::wstring name) {
     sysvars_.setString(L"DWGPREFIX", folder, true);
     sysvars_.setShort(L"DWGTITLED", base.empty() ? 0 : 1, true);
 }
+
+// Wide-character streams (fwprintf, fgetws) read and write UTF-8, the host's text encoding.
+Host::Host() { std::setlocale(LC_CTYPE, "C.UTF-8"); }
 
 Host& Host::instance() {
     static Host host;

@@ -118,7 +118,7 @@ public:
     std::optional<int> takeDefunOverride(std::wstring_view name);
 
 private:
-    Host() = default;
+    Host();
     std::vector<std::unique_ptr<Document>> documents_;
     Document* current_ = nullptr;
     std::vector<std::unique_ptr<Module>> modules_;
