@@ -33,9 +33,9 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:airmix", notAvailable<25>},  // 25
     {L"c:retair", notAvailable<26>},  // 26
     {L"c:q_res", notAvailable<27>},  // 27
-    {L"_kzsj1", notAvailable<28>},  // 28
+    {L"_kzsj1", attachXdataFunction},  // 28
     {L"_getnalt", notAvailable<29>},  // 29
-    {L"_kzsj2", notAvailable<30>},  // 30
+    {L"_kzsj2", readXdataFunction},  // 30
     {L"_dxwj", notAvailable<31>},  // 31
     {L"_ssst_entlst", notAvailable<32>},  // 32
     {L"_get_ipt", notAvailable<33>},  // 33
@@ -58,7 +58,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:bjfd", notAvailable<50>},  // 50
     {L"c:xgfs", notAvailable<51>},  // 51
     {L"c:kvres", notAvailable<52>},  // 52
-    {L"work2", notAvailable<53>},  // 53
+    {L"work2", xdataByCode},  // 53
     {L"c:fzzbdy", notAvailable<54>},  // 54
     {L"c:fzzbsc", notAvailable<55>},  // 55
     {L"XGetVrA", getVrnResultA},  // 56

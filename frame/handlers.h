@@ -11,6 +11,11 @@ int setDialogFont();     // "_SetDlgFont"
 int drawHanzi();         // "t:draw-hz"
 int viewCorners();       // "_Xscjx"
 
+// Extended data
+int attachXdataFunction();  // "_kzsj1"
+int readXdataFunction();    // "_kzsj2"
+int xdataByCode();          // "work2"
+
 // A function of the table that this version does not provide.
 template <int Code>
 int notAvailable();

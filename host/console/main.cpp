@@ -61,10 +61,10 @@ cos atan exp log expt min max = /= < > <= >= zerop minusp numberp; car cdr cadr 
 cdar caddr cadar cdddr cons list append reverse length nth last member assoc subst null not
 atom listp eq equal type; strcat strlen substr strcase itoa atoi atof chr ascii wcmatch;
 princ prin1 print terpri alert; getvar setvar command polar angle distance trans rtos
-distof; entlast entnext entget entmake entmod entdel handent ssget sslength ssname ssadd
-ssdel ssmemb; and every function the module registers, called with its arguments converted
-as the editor converts them (a list of two or three numbers arrives as a point, integers as
-short integers, nil as nil, T as T).
+distof; entlast entnext entget entmake entmod entdel handent regapp tblsearch xdroom ssget
+sslength ssname ssadd ssdel ssmemb; and every function the module registers, called with its
+arguments converted as the editor converts them (a list of two or three numbers arrives as a
+point, integers as short integers, nil as nil, T as T).
 
 Headless forms:
   (host-dialog NAME ACTIONS)  queue actions for the next time dialog NAME starts. ACTIONS is

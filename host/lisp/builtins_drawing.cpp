@@ -108,6 +108,21 @@ void addDrawingBuiltins(Interpreter& in) {
         ads_name e;
         return enameResult(acdbHandEnt(stringArg(a[0]).c_str(), e), e);
     });
+    in.define(L"REGAPP", [](Interpreter&, const Args& a) {
+        expectCount(a, 1, 1);
+        std::wstring name = stringArg(a[0]);
+        return acdbRegApp(name.c_str()) == RTNORM ? makeStr(name) : nil();
+    });
+    in.define(L"TBLSEARCH", [](Interpreter&, const Args& a) {
+        expectCount(a, 2, 3);
+        RbPtr entry(acdbTblSearch(stringArg(a[0]).c_str(), stringArg(a[1]).c_str(), a.size() == 3 && !isNil(a[2])));
+        return entry ? resbufToList(entry.get()) : nil();
+    });
+    in.define(L"XDROOM", [](Interpreter&, const Args& a) {
+        expectCount(a, 1, 1);
+        long room = 0;
+        return acdbXdRoom(enameArg(a[0]), &room) == RTNORM ? makeInt(room) : nil();
+    });
     in.define(L"SSGET", [](Interpreter&, const Args& a) { return ssget(a); });
     in.define(L"SSLENGTH", [](Interpreter&, const Args& a) {
         expectCount(a, 1, 1);

@@ -35,12 +35,27 @@ host::CallResult HostSession::call(const std::wstring& name, const std::vector<l
     return host().invoke(name, args);
 }
 
+namespace {
+host::lisp::Interpreter& interpreter() {
+    static host::lisp::Interpreter instance;
+    return instance;
+}
+}  // namespace
+
 std::wstring HostSession::eval(const std::wstring& text) {
-    static host::lisp::Interpreter interpreter;
     try {
-        return lisp::printValue(interpreter.evalText(text));
+        return lisp::printValue(interpreter().evalText(text));
     } catch (const host::lisp::LispError& e) {
         return L"; error: " + e.message;
+    }
+}
+
+lisp::ValuePtr HostSession::evalValue(const std::wstring& text) {
+    try {
+        return interpreter().evalText(text);
+    } catch (const host::lisp::LispError& e) {
+        ADD_FAILURE() << "AutoLISP error in the test's own script: " << std::string(e.message.begin(), e.message.end());
+        return lisp::nil();
     }
 }
 

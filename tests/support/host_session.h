@@ -24,6 +24,8 @@ protected:
     host::CallResult call(const std::wstring& name, const std::vector<lisp::ValuePtr>& args = {});
     // Evaluates AutoLISP text with the console's interpreter; returns the printed value.
     std::wstring eval(const std::wstring& text);
+    // The same, answering the value itself; an AutoLISP error fails the test.
+    lisp::ValuePtr evalValue(const std::wstring& text);
 
     host::Host& host() { return host::Host::instance(); }
     host::Document& doc() { return host().current(); }

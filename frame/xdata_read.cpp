@@ -1,0 +1,44 @@
+// Reading an application's string or list back from an entity's extended data.
+#include <cstdlib>
+#include <cstring>
+#include <cwchar>
+
+#include "acdbads.h"
+#include "acutads.h"
+#include "frame/list_builder.h"
+#include "frame/rblist.h"
+#include "frame/xdata.h"
+#include "frame/xdata_groups.h"
+#include "frame/xdata_messages.h"
+
+namespace vrn2 {
+namespace {
+
+constexpr wchar_t kMsgBadKind[] = L"\nMessage type should be 0 or 1";
+
+}  // namespace
+
+int readXdata(const ads_name entity, const ACHAR* application, int kind, resbuf** result) {
+    *result = nullptr;
+    if (!application || std::wcslen(application) >= kApplicationNameLimit) {
+        acutPrintf(L"%s", kMsgApplicationNameTooLong);
+        return RTERROR;
+    }
+    if (kind != static_cast<int>(XdataKind::String) && kind != static_cast<int>(XdataKind::List)) {
+        acutPrintf(L"%s", kMsgBadKind);
+        return RTERROR;
+    }
+    RbList data(readWithAllXdata(entity));
+    if (!data) {
+        acutPrintf(L"%s", kMsgNotInDatabase);
+        return RTERROR;
+    }
+    resbuf* mark = findXdataMark(data.get());
+    if (!mark) return RTERROR;
+    ApplicationBlock block = findBlock(mark, application);
+    if (kind == static_cast<int>(XdataKind::String))
+        return block.string && (*result = newStringBuffer(RTSTR, block.string->resval.rstring)) ? RTNORM : RTERROR;
+    return block.beforeBrace ? xdataToList(block.beforeBrace->rbnext, result) : RTERROR;
+}
+
+}  // namespace vrn2
