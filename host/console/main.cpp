@@ -73,7 +73,8 @@ Headless forms:
                               (press KEY): a click on a button; (select KEY "I J"): a choice
                               of list items. They are applied in order; the dialog is
                               cancelled when they run out, or at once when nothing is queued.
-                              Each start of NAME uses the next queued list.
+                              Each start of NAME uses the next queued list. NAME and KEY
+                              are strings: dialog names and tile keys are case-sensitive.
   (host-entsel ENAME POINT)   queue the answer of the next entity pick
   (host-getpoint POINT)       queue the answer of the next point pick
   An empty pick queue answers as a cancelled pick.
@@ -212,6 +213,8 @@ int main(int argc, char** argv) {
         std::wstring error;
         database = db::Database::load(o.drawing, error);
         if (!database) return usageError("cannot open drawing " + o.drawing + ": " + toUtf8(error));
+        // What the reader repaired on the way in, as the editor reports it when it opens a file.
+        for (const auto& warning : database->warnings()) std::cout << "Warning: " << toUtf8(warning) << "\n";
         drawingName = fs::absolute(o.drawing).wstring();
     } else {
         database = std::make_unique<db::Database>();

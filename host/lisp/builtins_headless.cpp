@@ -14,6 +14,13 @@ std::wstring textOf(const ValuePtr& v) {
     badArgument(L"stringp", v);
 }
 
+// Dialog names and tile keys are case-sensitive, and a symbol has lost its case in the reader,
+// so they must be strings.
+std::wstring nameOf(const ValuePtr& v) {
+    if (!v || v->kind != Kind::Str) badArgument(L"stringp", v);
+    return v->text;
+}
+
 DialogAction parseAction(const ValuePtr& form) {
     auto parts = listItems(form);
     if (parts.empty() || !parts[0] || parts[0]->kind != Kind::Sym) badArgument(L"dialog action", form);
@@ -22,12 +29,12 @@ DialogAction parseAction(const ValuePtr& form) {
     if (verb == L"SET" || verb == L"SELECT") {
         if (parts.size() != 3) badArgument(L"dialog action", form);
         action.kind = verb == L"SET" ? DialogAction::Kind::Set : DialogAction::Kind::Select;
-        action.key = textOf(parts[1]);
+        action.key = nameOf(parts[1]);
         action.value = textOf(parts[2]);
     } else if (verb == L"PRESS") {
         if (parts.size() != 2) badArgument(L"dialog action", form);
         action.kind = DialogAction::Kind::Press;
-        action.key = textOf(parts[1]);
+        action.key = nameOf(parts[1]);
     } else {
         badArgument(L"dialog action", form);
     }
@@ -40,7 +47,7 @@ DialogAction parseAction(const ValuePtr& form) {
 void addHeadlessBuiltins(Interpreter& in) {
     in.define(L"HOST-DIALOG", [](Interpreter&, const Args& a) {
         expectCount(a, 2, 2);
-        std::wstring name = textOf(a[0]);
+        std::wstring name = nameOf(a[0]);
         if (!isList(a[1])) badArgument(L"listp", a[1]);
         std::vector<DialogAction> actions;
         for (auto& form : listItems(a[1])) actions.push_back(parseAction(form));

@@ -6,6 +6,7 @@
 
 #include "acedads.h"
 #include "acutads.h"
+#include "host/dcl/dcl.h"
 #include "host/runtime/host.h"
 #include "host/runtime/output.h"
 #include "host/text.h"
@@ -79,9 +80,13 @@ int runCommands(CommandInput& input) {
 
 }  // namespace host
 
-extern "C" int acedCmd(const struct resbuf* rbp) { return host::runResbufs(rbp); }
+extern "C" int acedCmd(const struct resbuf* rbp) {
+    if (host::dcl::rejectWhileDialogOpen(L"acedCmd")) return RTREJ;
+    return host::runResbufs(rbp);
+}
 
 extern "C" int acedCommand(int rtype, ...) {
+    if (host::dcl::rejectWhileDialogOpen(L"acedCommand")) return RTREJ;
     va_list args;
     va_start(args, rtype);
     std::vector<host::CommandToken> tokens;

@@ -8,6 +8,7 @@
 #include "acdbads.h"
 #include "acedads.h"
 #include "acutads.h"
+#include "host/dcl/dcl.h"
 
 namespace host {
 namespace {
@@ -48,6 +49,7 @@ void clearPicks() {
 extern "C" int acedInitGet(int, const ACHAR*) { return RTNORM; }
 
 extern "C" int acedEntSel(const ACHAR* str, ads_name entres, ads_point ptres) {
+    if (host::dcl::rejectWhileDialogOpen(L"acedEntSel")) return RTREJ;
     acutPrintf(L"%ls", str ? str : L"\nSelect object: ");
     auto& q = host::entityPicks();
     if (q.empty()) {
@@ -62,6 +64,7 @@ extern "C" int acedEntSel(const ACHAR* str, ads_name entres, ads_point ptres) {
 }
 
 extern "C" int acedGetPoint(const ads_point, const ACHAR* prompt, ads_point result) {
+    if (host::dcl::rejectWhileDialogOpen(L"acedGetPoint")) return RTREJ;
     if (prompt) acutPrintf(L"%ls", prompt);
     auto& q = host::pointPicks();
     if (q.empty()) {

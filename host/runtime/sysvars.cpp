@@ -30,6 +30,11 @@ SysVars::SysVars() {
     setReal(L"VIEWSIZE", 297.0, true);
     setPoint(L"SCREENSIZE", screen, true, true);
     setPoint(L"VIEWDIR", viewDir, false, true);
+    // The virtual screen covers the view: 297 high and 297 * 1024 / 768 = 396 wide.
+    const double virtualMin[3] = {12.0, 0.0, 0.0};
+    const double virtualMax[3] = {408.0, 297.0, 0.0};
+    setPoint(L"VSMIN", virtualMin, false, true);
+    setPoint(L"VSMAX", virtualMax, false, true);
     setReal(L"VIEWTWIST", 0.0, true);
     // Units and formats
     setShort(L"LUNITS", 2);

@@ -96,6 +96,21 @@ class Drawing(unittest.TestCase):
             with open(out) as f:
                 self.assertEqual(f.read(), "previous contents")
 
+    def test_repairs_made_while_reading_are_reported_and_the_drawing_opens(self):
+        lines = ["0", "SECTION", "2", "HEADER", "9", "$ACADVER", "1", "AC1009", "0", "ENDSEC",
+                 "0", "SECTION", "2", "ENTITIES"]
+        for y in ("0.0", "1.0"):
+            lines += ["0", "LINE", "5", "2A", "8", "0", "10", "0.0", "20", y, "30", "0.0",
+                      "11", "1.0", "21", y, "31", "0.0"]
+        lines += ["0", "ENDSEC", "0", "EOF"]
+        with tempfile.TemporaryDirectory() as d:
+            path = os.path.join(d, "twice.dxf")
+            with open(path, "w") as f:
+                f.write("\n".join(lines) + "\n")
+            code, out, _ = run("--drawing", path, "-e", '(sslength (ssget "X"))')
+            self.assertEqual(code, 0)
+            self.assertEqual(out, "Warning: handle 2A is used more than once; a later object was given a new handle\n2\n")
+
 
 class BadInput(unittest.TestCase):
     def test_bad_options_and_unreadable_files_give_status_2(self):
@@ -105,6 +120,13 @@ class BadInput(unittest.TestCase):
             self.assertEqual(code, 2, args)
             self.assertTrue(err.startswith("adscon: "), (args, err))
             self.assertEqual(out, "", args)
+
+    def test_dialog_names_and_keys_must_be_strings_since_they_are_case_sensitive(self):
+        code, out, _ = run("-e", "(host-dialog \"ci_dt\" '((press result)))")
+        self.assertEqual(code, 1)
+        self.assertIn("; error: bad argument type: stringp: RESULT", out)
+        code, out, _ = run("-e", "(host-dialog \"ci_dt\" '((set \"temp\" 25) (press \"result\")))")
+        self.assertEqual((code, out), (0, "T\n"))
 
     def test_malformed_input_is_an_autolisp_error(self):
         code, out, _ = run("-e", "(+ 1 2")

@@ -1,5 +1,6 @@
 // Running dialogs: start_dialog statuses, the priority of actions, standard exits, the
 // callback packet, reading tiles and attributes.
+#include <functional>
 #include <vector>
 
 #include "dcl_fixture.h"
@@ -338,6 +339,7 @@ TEST_F(DclLifecycle, TermDialogOutsideADialogDiscardsDialogsNotStarted) {
 }  // namespace
 }  // namespace dcltest
 
+#include "acedads.h"
 #include "host/runtime/host.h"
 
 namespace dcltest {
@@ -372,6 +374,27 @@ TEST_F(DclDocument, CmdactiveShowsAnOpenDialogAndDiastatTheOutcome) {
     EXPECT_EQ(variable(L"DIASTAT"), 1);
     EXPECT_EQ(start(open(id, L"main_dlg")), DLGCANCEL);
     EXPECT_EQ(variable(L"DIASTAT"), 0);
+}
+
+TEST_F(DclDocument, CommandsAndPicksAreRejectedFromAnOpenDialogOnly) {
+    const std::pair<const wchar_t*, std::function<int()>> calls[] = {
+        {L"acedCommand", [] { return acedCommand(RTSTR, L"ZOOM", RTSTR, L"E", 0); }},
+        {L"acedCmd", [] { return acedCmd(nullptr); }},
+        {L"acedGetPoint", [] { ads_point p; return acedGetPoint(nullptr, nullptr, p); }},
+        {L"acedEntSel", [] { ads_name e; ads_point p; return acedEntSel(L"", e, p); }},
+    };
+    for (const auto& [name, call] : calls) {
+        int status = 0;
+        handler(0) = [&](ads_callback_packet*) { status = call(); };
+        ads_hdlg h = open(id, L"main_dlg");
+        ads_action_tile(h, L"plain", forward<0>);
+        host::queueDialogActions(L"main_dlg", {press(L"plain"), press(L"accept")});
+        host::OutputCapture out;
+        EXPECT_EQ(start(h), DLGALLDONE) << name;
+        EXPECT_EQ(status, RTREJ) << name;
+        EXPECT_EQ(out.commandLine(), L"AutoCAD rejected function " + std::wstring(name) + L"\n");
+    }
+    EXPECT_EQ(acedCommand(RTSTR, L"ZOOM", RTSTR, L"E", 0), RTNORM) << "with no dialog open the command runs";
 }
 
 TEST_F(DclDocument, RejectedFunctionSetsErrno) {
