@@ -7,13 +7,16 @@
 
 #include "acdbads.h"
 #include "acedads.h"
+#include "acutads.h"
 #include "adscodes.h"
+#include "host/dcl/dcl.h"
 #include "host/db/api_support.h"
 #include "host/db/selection.h"
 #include "host/db/selection_filter.h"
 #include "host/db/selection_sets.h"
 #include "host/db/shapes.h"
 #include "host/runtime/host.h"
+#include "host/runtime/input.h"
 #include "host/text.h"
 
 using namespace host;
@@ -149,7 +152,8 @@ std::vector<uint32_t> pickAt(const Database& db, const SelectionFilter& filter, 
 
 namespace host::db {
 
-// Selection by mode into members; RTNORM, RTCAN for interactive modes, RTERROR otherwise.
+// Selection by mode into members; RTNORM, RTCAN or RTREJ for interactive modes, RTERROR
+// otherwise.
 int selectEntities(Database& db, const ACHAR* str, const void* pt1, const void* pt2,
                    const SelectionFilter& filter, std::vector<uint32_t>& members) {
     Mode mode = modeOf(str, pt1);
@@ -196,7 +200,12 @@ int selectEntities(Database& db, const ACHAR* str, const void* pt1, const void* 
     case Mode::Interactive: {
         ads_name picked;
         ads_point at;
-        if (acedEntSel(L"\nSelect objects: ", picked, at) != RTNORM) return RTCAN;
+        if (host::dcl::rejectWhileDialogOpen(L"acedSSGet")) return RTREJ;
+        acutPrintf(L"\nSelect objects: ");
+        if (!takeEntityPick(picked, at)) {
+            acutPrintf(L"*Cancel*\n");
+            return RTCAN;
+        }
         uint32_t index = db.indexOf(picked);
         if (index != kNone && db.record(index).kind == RecordKind::SubEntity) index = db.record(index).main;
         if (index != kNone && !db.record(index).deleted && filter.matches(db, index)) members = {index};

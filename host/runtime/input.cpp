@@ -44,6 +44,15 @@ void clearPicks() {
     pointPicks().clear();
 }
 
+bool takeEntityPick(ads_name ent, ads_point pt) {
+    auto& q = entityPicks();
+    if (q.empty()) return false;
+    acdbNameSet(q.front().ent, ent);
+    acdbPointSet(q.front().pt, pt);
+    q.pop_front();
+    return true;
+}
+
 }  // namespace host
 
 extern "C" int acedInitGet(int, const ACHAR*) { return RTNORM; }
@@ -51,15 +60,10 @@ extern "C" int acedInitGet(int, const ACHAR*) { return RTNORM; }
 extern "C" int acedEntSel(const ACHAR* str, ads_name entres, ads_point ptres) {
     if (host::dcl::rejectWhileDialogOpen(L"acedEntSel")) return RTREJ;
     acutPrintf(L"%ls", str ? str : L"\nSelect object: ");
-    auto& q = host::entityPicks();
-    if (q.empty()) {
+    if (!host::takeEntityPick(entres, ptres)) {
         acutPrintf(L"*Cancel*\n");
         return RTCAN;
     }
-    auto pick = q.front();
-    q.pop_front();
-    acdbNameSet(pick.ent, entres);
-    acdbPointSet(pick.pt, ptres);
     return RTNORM;
 }
 

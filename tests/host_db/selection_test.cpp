@@ -4,6 +4,7 @@
 #include <set>
 
 #include "host/runtime/input.h"
+#include "host/runtime/output.h"
 #include "tests/host_db/db_fixture.h"
 
 namespace dbtest {
@@ -303,7 +304,9 @@ TEST_F(Geometry, PickLastPreviousAndInteractiveModes) {
     ASSERT_EQ(acdbHandEnt(circle_.c_str(), circle), RTNORM);
     const double at[3] = {55, 50, 0};
     host::queueEntityPick(circle, at);
+    host::OutputCapture prompts;
     EXPECT_EQ(select(nullptr, nullptr, nullptr, nullptr), (std::set<std::wstring>{circle_}));
+    EXPECT_EQ(prompts.commandLine(), L"\nSelect objects: ") << "the selection's own prompt, not a pick's";
     EXPECT_EQ(acedSSGet(nullptr, nullptr, nullptr, nullptr, ss), RTCAN) << "the queue is used up";
 }
 
