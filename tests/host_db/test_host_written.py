@@ -1,29 +1,85 @@
-"""Drawings the host writes itself (a new drawing, an R2000 and an R12 one, filled with every
-kind of entity the host makes, extended data, a block with attributes) open in ezdxf, pass its
-audit without errors or fixes, and hold what was made."""
+"""Drawings the host writes itself, made by a script in the console as a user would make them
+(a new drawing, an R2000 and an R12 one, filled with every kind of entity the host makes,
+extended data, a block with attributes, a changed and a deleted entity), open in ezdxf, pass
+its audit without errors or fixes, and hold what was made."""
 
 import os
 import subprocess
-import sys
 import tempfile
 import unittest
 
 import ezdxf
 from ezdxf import recover
 
-BUILD = os.environ.get("VRN2_BUILD", "")
-TESTS = os.path.join(BUILD, "tests", "host_db_tests")
+ADSCON = os.environ["ADSCON"]
+
+COMMON = r"""
+(regapp "K_DUCT_SIZE")
+(regapp "STARTP")
+(entmake '((0 . "LINE") (8 . "SLJS-1") (62 . 3) (10 0.0 0.0 0.0) (11 1000.0 0.0 0.0)
+           (-3 ("K_DUCT_SIZE" (1002 . "{") (1040 . 500.0) (1040 . 320.0) (1002 . "}")))))
+(entmake '((0 . "LINE") (8 . "风管") (10 1000.0 0.0 0.0) (11 1000.0 500.0 0.0)
+           (-3 ("STARTP" (1010 1000.0 0.0 0.0) (1000 . "送风 DN100") (1070 . 7) (1071 . 123456)
+                (1005 . "1F")))))
+(entmake '((0 . "CIRCLE") (10 50.0 50.0 0.0) (40 . 5.0)))
+(entmake '((0 . "ARC") (10 50.0 50.0 0.0) (40 . 8.0) (50 . 0.0) (51 . 1.5707963267948966)))
+(entmake '((0 . "TEXT") (10 50.0 50.0 0.0) (40 . 3.5) (1 . "送风管 %%c100") (72 . 1) (73 . 2)
+           (11 50.0 50.0 0.0)))
+(entmake '((0 . "POINT") (10 1000.0 500.0 0.0)))
+(entmake '((0 . "SOLID") (10 0.0 0.0 0.0) (11 1000.0 0.0 0.0) (12 1000.0 500.0 0.0) (13 50.0 50.0 0.0)))
+(entmake '((0 . "POLYLINE") (66 . 1) (70 . 1)))
+(foreach v '((0.0 0.0 0.0) (1000.0 0.0 0.0) (1000.0 500.0 0.0))
+  (entmake (list '(0 . "VERTEX") (cons 10 v) '(42 . 0.25))))
+(entmake '((0 . "SEQEND")))
+(entmake '((0 . "POLYLINE") (66 . 1) (70 . 8)))
+(foreach v '((0.0 0.0 0.0) (0.0 0.0 300.0)) (entmake (list '(0 . "VERTEX") (cons 10 v) '(70 . 32))))
+(entmake '((0 . "SEQEND")))
+(entmake '((0 . "BLOCK") (2 . "C201-1") (70 . 2) (10 0.0 0.0 0.0)))
+(entmake '((0 . "CIRCLE") (10 0.0 0.0 0.0) (40 . 5.0)))
+(entmake '((0 . "ATTDEF") (10 0.0 0.0 0.0) (40 . 2.5) (1 . "") (2 . "F-LL") (3 . "流量") (70 . 0)))
+(entmake '((0 . "ENDBLK")))
+(entmake '((0 . "INSERT") (2 . "C201-1") (10 1000.0 500.0 0.0) (66 . 1)))
+(entmake '((0 . "ATTRIB") (10 1000.0 500.0 0.0) (40 . 2.5) (1 . "1200") (2 . "F-LL") (70 . 0)))
+(entmake '((0 . "SEQEND")))
+(entmake '((0 . "LINE") (10 0.0 0.0 0.0) (11 1000.0 500.0 0.0)))
+(entdel (entlast))
+(setq first (entget (entnext)))
+(entmod (append (subst '(8 . "CHANGED") (assoc 8 first) first) '((62 . 1))))
+"""
+
+LATER_TYPES = r"""
+(entmake '((0 . "ELLIPSE") (10 50.0 50.0 0.0) (11 20.0 0.0 0.0) (40 . 0.5) (41 . 0.0) (42 . 6.283185307179586)))
+(entmake '((0 . "MTEXT") (10 50.0 50.0 0.0) (40 . 2.5) (1 . "两行\\P文字")))
+(entmake '((0 . "LWPOLYLINE") (90 . 2) (70 . 1) (43 . 50.0) (10 50.0 200.0) (42 . 1.0) (10 150.0 200.0)
+           (42 . 1.0)))
+"""
 
 
 class HostWritten(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.tmp = tempfile.TemporaryDirectory()
-        env = dict(os.environ, HOST_DB_DRAWING_OUT=cls.tmp.name)
-        proc = subprocess.run([TESTS, "--gtest_filter=WrittenDrawing.*"], env=env,
-                              capture_output=True, text=True, timeout=300)
-        if proc.returncode != 0:
-            raise AssertionError(proc.stdout + proc.stderr)
+        d = cls.tmp.name
+        for version in ("R2000", "R12"):
+            base = ezdxf.new(version)
+            base.encoding = "gbk"  # written as $DWGCODEPAGE ANSI_936
+            base.saveas(os.path.join(d, f"base_{version}.dxf"))
+        cls.make("host_new.dxf", COMMON + LATER_TYPES)
+        cls.make("host_r2000.dxf", COMMON + LATER_TYPES, "base_R2000.dxf")
+        cls.make("host_r12.dxf", COMMON, "base_R12.dxf")
+
+    @classmethod
+    def make(cls, name, script, base=None):
+        d = cls.tmp.name
+        path = os.path.join(d, name + ".lsp")
+        with open(path, "w", encoding="utf-8") as f:
+            f.write(script)
+        args = [ADSCON, "--save", os.path.join(d, name), path]
+        if base:
+            args[1:1] = ["--drawing", os.path.join(d, base)]
+        p = subprocess.run(args, capture_output=True, text=True, timeout=60)
+        if p.returncode != 0 or "nil" in p.stdout.split():
+            raise AssertionError(f"{name}: {p.returncode}\n{p.stdout}{p.stderr}")
 
     @classmethod
     def tearDownClass(cls):
@@ -88,7 +144,4 @@ class HostWritten(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    if not os.path.exists(TESTS):
-        print(f"{TESTS} is missing", file=sys.stderr)
-        sys.exit(1)
     unittest.main()
