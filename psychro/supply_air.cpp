@@ -23,8 +23,11 @@ double flowFromSensibleLoad(double qx_kW, double dt_K) {
 }
 
 // Fills O from its moisture content at the supply temperature: the enthalpy of the point,
-// then the rest of the state, whose dry bulb is then pinned to the supply temperature.
+// then the rest of the state, whose dry bulb is then pinned to the supply temperature. A
+// moisture content that is no number (a zero moisture load or flow) fails before the solver,
+// whose dew-point search would only add an alert about the temperature range.
 int completeSupplyState(double dO, double to, AirState& supply) {
+    if (!std::isfinite(dO)) return RTERROR;
     supply.d = dO;
     supply.i = EnthalpyFromTempMoisture(to, dO);
     int status = StateFromEnthalpyMoistureSupplyAir(supply);
