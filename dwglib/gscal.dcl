@@ -108,7 +108,15 @@ intro_scproofcal : dialog {
         : text_part { label = "冷负荷单位kW,湿负荷单位kg/h,送风温差单位℃。"; }
         : text_part { label = "结果对话框中按\"保存结果\"可把结果追加到当前目录的文件gscal.txt中。"; }
     }
-    ok_only;
+    : button {
+        key = "accept";
+        label = "确定";
+        is_default = true;
+        is_cancel = true;
+        width = 10;
+        fixed_width = true;
+        alignment = centered;
+    }
 }
 
 v_resdlg : dialog {
@@ -137,7 +145,15 @@ introduce3 : dialog {
         : text_part { label = "超过99个字符的行分成几行显示。"; }
         : text_part { label = "不再需要这些结果时,可用命令GSDELRES删除此文件。"; }
     }
-    ok_only;
+    : button {
+        key = "accept";
+        label = "确定";
+        is_default = true;
+        is_cancel = true;
+        width = 10;
+        fixed_width = true;
+        alignment = centered;
+    }
 }
 
 delwarming : dialog {

@@ -32,7 +32,15 @@ introduce3 : dialog {
         : text_part { label = "超过99个字符的行分成几行显示。"; }
         : text_part { label = "不再需要这些结果时,可用命令SCDELRES删除此文件。"; }
     }
-    ok_only;
+    : button {
+        key = "accept";
+        label = "确定";
+        is_default = true;
+        is_cancel = true;
+        width = 10;
+        fixed_width = true;
+        alignment = centered;
+    }
 }
 
 delwarming : dialog {

@@ -50,15 +50,6 @@ TEST(SupplyAirChecks, EachFaultInTurnWithItsTile) {
     EXPECT_EQ(faultOf(r), L"none");
 }
 
-TEST(SupplyAirChecks, TheLoadIsReadWhicheverKindItIs) {
-    SupplyAirReadings r = complete();
-    r.totalLoad = false, r.moistureGiven = false, r.load.reset();
-    EXPECT_EQ(faultOf(r), L"q_value|   输入热负荷值.  ");
-    r = complete();
-    r.totalLoad = false, r.w.reset();
-    EXPECT_EQ(faultOf(r), L"w_value|   输入湿负荷值.  ");
-}
-
 TEST(SupplyAirChecks, RangeFaults) {
     const std::wstring pressure = L"B|   大气压要求在50-200之间.  ";
     const std::wstring temperature = L"tn_value|   干球温度要求在0-100之间.  ";
@@ -78,20 +69,6 @@ TEST(SupplyAirChecks, RangeFaults) {
         r.B = c.B, r.tn = c.tn, r.rhn = c.rhn;
         EXPECT_EQ(faultOf(r), c.fault) << c.B << " kPa, " << c.tn << " °C, " << c.rhn << " %";
     }
-}
-
-TEST(SupplyAirChecks, TheInputTakesTheReadingsAndDropsAnUnusedMoistureLoad) {
-    SupplyAirReadings r = complete();
-    r.totalLoad = false, r.moistureGiven = false;
-    vrn2::SupplyAirInput in = vrn2::supplyAirInput(r);
-    EXPECT_EQ(in.B, 101.325);
-    EXPECT_EQ(in.tn, 22.0);
-    EXPECT_EQ(in.rhn, 60.0);
-    EXPECT_EQ(in.load, 11.6);
-    EXPECT_EQ(in.w, 0.0);
-    EXPECT_EQ(in.dt, 6.0);
-    EXPECT_FALSE(in.totalLoad);
-    EXPECT_FALSE(in.moistureGiven);
 }
 
 }  // namespace
