@@ -17,9 +17,9 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"C:zfqpbj", notAvailable<9>},  // 9
     {L"C:zfqpsr", notAvailable<10>},  // 10
     {L"ads_kl", notAvailable<11>},  // 11
-    {L"c:gscal", notAvailable<12>},  // 12
-    {L"c:gsdelres", notAvailable<13>},  // 13
-    {L"c:gsv_res", notAvailable<14>},  // 14
+    {L"c:gscal", supplyAirCalculation},  // 12
+    {L"c:gsdelres", deleteSupplyAirResults},  // 13
+    {L"c:gsv_res", viewSupplyAirResults},  // 14
     {L"break_p", notAvailable<15>},  // 15
     {L"t:hx_hlgzc", notAvailable<16>},  // 16
     {L"t:hx_vlgzc", notAvailable<17>},  // 17
@@ -28,7 +28,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:i_dhlp", notAvailable<20>},  // 20
     {L"c:crti_dtbl", notAvailable<21>},  // 21
     {L"c:vi_dtbl", notAvailable<22>},  // 22
-    {L"c:v_res", notAvailable<23>},  // 23
+    {L"c:v_res", viewStatePointResults},  // 23
     {L"c:constp", notAvailable<24>},  // 24
     {L"c:airmix", notAvailable<25>},  // 25
     {L"c:retair", notAvailable<26>},  // 26
@@ -48,8 +48,8 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:sccal", notAvailable<40>},  // 40
     {L"c:scinfo", notAvailable<41>},  // 41
     {L"c:schlp", notAvailable<42>},  // 42
-    {L"c:scv_res", notAvailable<43>},  // 43
-    {L"c:scdelres", notAvailable<44>},  // 44
+    {L"c:scv_res", viewCoolerResults},  // 43
+    {L"c:scdelres", deleteCoolerResults},  // 44
     {L"c:zljs", notAvailable<45>},  // 45
     {L"c:jzdy", notAvailable<46>},  // 46
     {L"c:sssj", notAvailable<47>},  // 47

@@ -16,6 +16,14 @@ int attachXdataFunction();  // "_kzsj1"
 int readXdataFunction();    // "_kzsj2"
 int xdataByCode();          // "work2"
 
+// Supply air, and viewing and deleting the result files of the calculations
+int supplyAirCalculation();    // "c:gscal"
+int deleteSupplyAirResults();  // "c:gsdelres"
+int viewSupplyAirResults();    // "c:gsv_res"
+int viewStatePointResults();   // "c:v_res"
+int viewCoolerResults();       // "c:scv_res"
+int deleteCoolerResults();     // "c:scdelres"
+
 // A function of the table that this version does not provide.
 template <int Code>
 int notAvailable();

@@ -1,0 +1,159 @@
+// "c:gscal": the supply-air dialog. It opens with the inputs of the last calculation (the
+// defaults before the first), checks the inputs in a fixed order when "cal" is pressed, and
+// shows the result over the dialog, which stays open for the next case.
+#include <string>
+
+#include "acedads.h"
+#include "adsdlg.h"
+#include "frame/handlers.h"
+#include "frame/paths.h"
+#include "frame/tile_numbers.h"
+#include "psychro/supply_air_checks.h"
+#include "psychro/supply_air_result_dialog.h"
+
+namespace vrn2 {
+namespace {
+
+constexpr wchar_t kDialogFile[] = L"dwglib/gscal.dcl";
+constexpr wchar_t kMainDialog[] = L"gs_caldlg";
+constexpr wchar_t kHelpDialog[] = L"intro_scproofcal";
+constexpr wchar_t kCannotLoad[] = L"不能装载对话框.";
+constexpr wchar_t kCannotInitialise[] = L"不能初始化对话框.";
+constexpr wchar_t kCannotShowHelp[] = L"不能显示这对话框.";
+constexpr wchar_t kNoResult[] = L"无法求得结果,检查输入参数是否合理?";
+constexpr wchar_t kTotalLoadLabel[] = L"  总热冷负荷(kW):  ";
+constexpr wchar_t kSensibleLoadLabel[] = L"  显热冷负荷(kW):  ";
+constexpr int kMaxInputChars = 30;
+
+// The input tiles, in the order of the checks.
+constexpr const wchar_t* kInputKeys[] = {L"B", L"tn_value", L"rhn_value", L"q_value", L"w_value", L"dt_value"};
+constexpr int kInputCount = sizeof kInputKeys / sizeof kInputKeys[0];
+
+// What the dialog opens with: the texts and toggles of the last calculation, for as long as
+// the module is loaded.
+struct RememberedInputs {
+    std::wstring texts[kInputCount] = {L"101.325", L"22", L"60", L"11.6", L"5", L"6"};
+    bool totalLoad = true;
+    bool moistureGiven = true;
+};
+RememberedInputs g_remembered;
+
+struct Session {
+    int dclId = -1;
+};
+
+bool toggleOn(ads_hdlg dialog, const wchar_t* key) {
+    wchar_t value[8] = {};
+    return ads_get_tile(dialog, key, value, 7) == RTNORM && value[0] == L'1';
+}
+
+std::wstring tileText(ads_hdlg dialog, const wchar_t* key) {
+    wchar_t text[kMaxInputChars + 1] = {};
+    if (ads_get_tile(dialog, key, text, kMaxInputChars + 1) != RTNORM) return L"";
+    return text;
+}
+
+void showLoadKind(ads_hdlg dialog, bool totalLoad) {
+    ads_set_tile(dialog, L"q_text", totalLoad ? kTotalLoadLabel : kSensibleLoadLabel);
+}
+
+void showMoistureGiven(ads_hdlg dialog, bool given) {
+    ads_mode_tile(dialog, L"w_value", given ? MODE_ENABLE : MODE_DISABLE);
+}
+
+void onLoadKind(ads_callback_packet* packet) { showLoadKind(packet->dialog, toggleOn(packet->dialog, L"q")); }
+void onMoistureGiven(ads_callback_packet* packet) {
+    showMoistureGiven(packet->dialog, toggleOn(packet->dialog, L"w"));
+}
+
+SupplyAirReadings readInputs(ads_hdlg dialog) {
+    SupplyAirReadings r;
+    std::optional<double>* fields[kInputCount] = {&r.B, &r.tn, &r.rhn, &r.load, &r.w, &r.dt};
+    for (int k = 0; k < kInputCount; ++k) {
+        double value = 0.0;
+        if (readTileNumber(dialog, kInputKeys[k], kMaxInputChars, value)) *fields[k] = value;
+    }
+    r.totalLoad = toggleOn(dialog, L"q");
+    r.moistureGiven = toggleOn(dialog, L"w");
+    return r;
+}
+
+void rememberInputs(ads_hdlg dialog, const SupplyAirReadings& r) {
+    for (int k = 0; k < kInputCount; ++k) g_remembered.texts[k] = tileText(dialog, kInputKeys[k]);
+    g_remembered.totalLoad = r.totalLoad;
+    g_remembered.moistureGiven = r.moistureGiven;
+}
+
+void onCalculate(ads_callback_packet* packet) {
+    const auto* session = static_cast<const Session*>(packet->client_data);
+    ads_hdlg dialog = packet->dialog;
+    ads_set_tile(dialog, L"error", L"");
+    SupplyAirReadings readings = readInputs(dialog);
+    if (auto fault = firstSupplyAirFault(readings)) {
+        acedAlert(fault->message);
+        ads_mode_tile(dialog, fault->key, MODE_SETFOCUS);
+        return;
+    }
+    rememberInputs(dialog, readings);
+    SupplyAirInput input = supplyAirInput(readings);
+    SupplyAirResult result;
+    if (computeSupplyAir(input, result) != RTNORM) {
+        ads_set_tile(dialog, L"error", kNoResult);
+        return;
+    }
+    showSupplyAirResult(session->dclId, input, result);
+}
+
+void onHelp(ads_callback_packet* packet) {
+    const auto* session = static_cast<const Session*>(packet->client_data);
+    ads_hdlg help = nullptr;
+    if (ads_new_dialog(kHelpDialog, session->dclId, NULLCB, &help) != RTNORM || help == BAD_DIALOG) {
+        acedAlert(kCannotShowHelp);
+        return;
+    }
+    int status = DLGCANCEL;
+    ads_start_dialog(help, &status);
+}
+
+void fillInputs(ads_hdlg dialog) {
+    for (int k = 0; k < kInputCount; ++k) ads_set_tile(dialog, kInputKeys[k], g_remembered.texts[k].c_str());
+    ads_set_tile(dialog, L"q", g_remembered.totalLoad ? L"1" : L"0");
+    ads_set_tile(dialog, L"w", g_remembered.moistureGiven ? L"1" : L"0");
+    showLoadKind(dialog, g_remembered.totalLoad);
+    showMoistureGiven(dialog, g_remembered.moistureGiven);
+}
+
+void connectActions(ads_hdlg dialog, Session& session) {
+    ads_action_tile(dialog, L"q", onLoadKind);
+    ads_action_tile(dialog, L"w", onMoistureGiven);
+    ads_action_tile(dialog, L"cal", onCalculate);
+    ads_action_tile(dialog, L"help", onHelp);
+    ads_client_data_tile(dialog, L"cal", &session);
+    ads_client_data_tile(dialog, L"help", &session);
+}
+
+}  // namespace
+
+int supplyAirCalculation() {
+    if (!loadInstallRoot()) return RTERROR;
+    Session session;
+    std::wstring path = suitePath(kDialogFile);
+    if (ads_load_dialog(path.c_str(), &session.dclId) != RTNORM || session.dclId < 0) {
+        acedAlert(kCannotLoad);
+        return RTERROR;
+    }
+    ads_hdlg dialog = nullptr;
+    if (ads_new_dialog(kMainDialog, session.dclId, NULLCB, &dialog) != RTNORM || dialog == BAD_DIALOG) {
+        acedAlert(kCannotInitialise);
+        ads_unload_dialog(session.dclId);
+        return RTERROR;
+    }
+    fillInputs(dialog);
+    connectActions(dialog, session);
+    int status = DLGCANCEL;
+    ads_start_dialog(dialog, &status);
+    ads_unload_dialog(session.dclId);
+    return RTNORM;
+}
+
+}  // namespace vrn2

@@ -1,0 +1,88 @@
+// A host session for the supply-air and result-file commands: a temporary folder as the current
+// folder (where result files go), a fresh dialog history, and helpers for scripted dialogs and
+// for files read and written as bytes.
+#pragma once
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "host/dcl/dcl.h"
+#include "host/runtime/dialog_script.h"
+#include "host/text.h"
+#include "tests/support/host_session.h"
+
+namespace result_file_test {
+
+namespace fs = std::filesystem;
+
+inline host::DialogAction set(std::wstring key, std::wstring value) {
+    return {host::DialogAction::Kind::Set, std::move(key), std::move(value)};
+}
+inline host::DialogAction press(std::wstring key) { return {host::DialogAction::Kind::Press, std::move(key), L""}; }
+
+class ResultFileSession : public testing_support::HostSession {
+protected:
+    void SetUp() override {
+        HostSession::SetUp();
+        host::dcl::resetDialogs();
+        host::dcl::clearDialogHistory();
+        saved_ = fs::current_path();
+        static int serial = 0;
+        dir_ = fs::temp_directory_path() /
+               ("vrn2_result_files_" + std::to_string(::getpid()) + "_" + std::to_string(++serial));
+        fs::create_directories(dir_);
+        fs::current_path(dir_);
+    }
+    void TearDown() override {
+        fs::current_path(saved_);
+        fs::remove_all(dir_);
+        HostSession::TearDown();
+    }
+
+    // The status a handler of the module returns (RTNORM or RTERROR), run as the invocation of
+    // its function. It runs the test program's copy of the module code, whose module-wide
+    // values are not those of the loaded module that call() reaches.
+    int handlerStatus(short code, int (*handler)()) {
+        return host().runInvocation(code, {}, handler).entryResult;
+    }
+
+    void queue(const std::wstring& dialog, std::vector<host::DialogAction> actions) {
+        host::queueDialogActions(dialog, std::move(actions));
+    }
+    const host::dcl::DialogRecord* dialog(const std::wstring& name) { return host::dcl::lastDialog(name); }
+    int runs(const std::wstring& name) const {
+        int n = 0;
+        for (const auto& d : host::dcl::dialogHistory()) n += d.name == name;
+        return n;
+    }
+
+    std::string fileBytes(const std::string& name) const {
+        std::ifstream in(dir_ / name, std::ios::binary);
+        std::ostringstream s;
+        s << in.rdbuf();
+        return s.str();
+    }
+    void writeFile(const std::string& name, const std::string& bytes) const {
+        fs::create_directories((dir_ / name).parent_path());
+        std::ofstream(dir_ / name, std::ios::binary) << bytes;
+    }
+    bool exists(const std::string& name) const { return fs::exists(dir_ / name); }
+
+    // Points _DRV at a folder of the test's own, for dialog files that are missing or lack a
+    // dialog.
+    void useRoot(const std::string& relative) {
+        fs::create_directories(dir_ / relative);
+        doc().symbols()[L"_DRV"] = host::lisp::makeStr(host::fromUtf8((dir_ / relative).string() + "/"));
+    }
+
+    fs::path dir_, saved_;
+};
+
+inline std::string utf8(const std::wstring& text) { return host::toUtf8(text); }
+
+}  // namespace result_file_test
