@@ -11,6 +11,10 @@ int setDialogFont();     // "_SetDlgFont"
 int drawHanzi();         // "t:draw-hz"
 int viewCorners();       // "_Xscjx"
 
+// Psychrometric state point and air mixing
+int statePoint();  // "c:ci_dt"
+int airMix();      // "c:airmix"
+
 // A function of the table that this version does not provide.
 template <int Code>
 int notAvailable();
