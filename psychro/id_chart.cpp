@@ -8,7 +8,8 @@ IdChart& idChart() {
 }
 
 ChartPoint chartPointOf(const IdChart& chart, double i, double d) {
-    return {chart.originX + chart.moistureScale * d, chart.originY + chart.enthalpyScale * (i - chart.enthalpySkew * d)};
+    return {chart.originX + chart.moistureScale * d,
+            chart.originY + chart.enthalpyScale * (i - chart.enthalpySkew * d)};
 }
 
 void chartStateAt(const IdChart& chart, double x, double y, double& i, double& d) {

@@ -23,6 +23,4 @@ bool rememberedPressure(double& kPa) {
     return true;
 }
 
-void forgetPressure() { g_pressure = RememberedPressure{}; }
-
 }  // namespace vrn2

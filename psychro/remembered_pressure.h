@@ -13,7 +13,5 @@ inline constexpr int kRememberedPressureDecimals = 4;
 void rememberPressure(double kPa);
 // Answers true and sets kPa when a pressure has been remembered.
 bool rememberedPressure(double& kPa);
-// Forgets the remembered pressure (the state of a freshly loaded module).
-void forgetPressure();
 
 }  // namespace vrn2

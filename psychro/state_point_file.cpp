@@ -58,7 +58,8 @@ StatePointBlock statePointBlock(int choice, const AirState& state) {
     block.knownFormat = kKnownLines[given ? choice : kChoicePickedPoint];
     block.rowFormat = first ? kRowChoice1 : kRow;
     if (given)
-        for (int k = 0; k < given->inputCount; ++k) block.known[block.knownCount++] = fieldOf(state, given->inputs[k].field);
+        for (int k = 0; k < given->inputCount; ++k)
+            block.known[block.knownCount++] = fieldOf(state, given->inputs[k].field);
 
     if (choice == kChoiceWetBulbOnly) {
         addRow(block, kRowQuantities[1], state);
@@ -89,7 +90,8 @@ bool appendStatePointBlock(const wchar_t* fileName, const StatePointBlock& block
     std::fwprintf(file, L"%ls", kSeparator);
     std::fwprintf(file, block.pressureFormat, block.pressure);
     std::fwprintf(file, block.knownFormat, block.known[0], block.known[1]);
-    for (int r = 0; r < block.rowCount; ++r) std::fwprintf(file, block.rowFormat, block.rows[r].label, block.rows[r].value);
+    for (int r = 0; r < block.rowCount; ++r)
+        std::fwprintf(file, block.rowFormat, block.rows[r].label, block.rows[r].value);
     std::fclose(file);
     return true;
 }

@@ -1,5 +1,5 @@
-// The pure parts of the state-point and mixing commands: the nine choices, the blocks of the
-// result file, the i-d chart mapping and the mixing formula. Expected values are worked by hand.
+// The pure parts of the state-point and mixing commands: the blocks of the result file, the
+// i-d chart mapping and the mixing formula. Expected values are worked by hand.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,64 +8,11 @@
 
 #include "psychro/air_mix.h"
 #include "psychro/id_chart.h"
-#include "psychro/remembered_pressure.h"
-#include "psychro/state_point_choices.h"
 #include "psychro/state_point_file.h"
 
 namespace {
 
 using namespace vrn2;
-
-// ---- Choices ------------------------------------------------------------------------------
-
-TEST(StatePointChoices, RadioKeysAreNumberedInDialogOrder) {
-    const wchar_t* keys[] = {L"ihd", L"tfy", L"tts", L"td", L"ihts", L"ttl", L"fyd", L"dbfy", L"tldb"};
-    for (int c = 1; c <= 9; ++c) {
-        ASSERT_NE(statePointChoice(c), nullptr);
-        EXPECT_STREQ(statePointChoice(c)->radioKey, keys[c - 1]);
-        EXPECT_EQ(choiceOfRadioKey(keys[c - 1]), c);
-    }
-    EXPECT_EQ(statePointChoice(0), nullptr);
-    EXPECT_EQ(statePointChoice(10), nullptr);
-    EXPECT_EQ(choiceOfRadioKey(L"temp"), 0);
-}
-
-TEST(StatePointChoices, FocusGoesToTemperatureAndSecondInputsOnly) {
-    // First inputs: ih (1, 5), temp (2, 3, 4, 6), fy (7, 8), db (9).
-    const bool firstTakesFocus[] = {false, true, true, true, false, true, false, false, false};
-    for (int c = 1; c <= 9; ++c) {
-        const StatePointChoice& choice = *statePointChoice(c);
-        EXPECT_EQ(inputTakesFocus(choice, 0), firstTakesFocus[c - 1]) << c;
-        if (choice.inputCount == 2) {
-            EXPECT_TRUE(inputTakesFocus(choice, 1)) << c;
-        }
-    }
-    EXPECT_EQ(statePointChoice(5)->inputCount, 1);
-}
-
-TEST(StatePointChoices, OnlyTheWetBulbChoiceComparesTsWithT) {
-    AirState s;
-    s.t = 20.0;
-    s.ts = 20.5;
-    EXPECT_TRUE(wetBulbAboveDryBulb(3, s));
-    EXPECT_FALSE(wetBulbAboveDryBulb(2, s));
-    s.ts = 20.0;
-    EXPECT_FALSE(wetBulbAboveDryBulb(3, s)) << "equal temperatures are saturated air, not an error";
-}
-
-TEST(StatePointChoices, OutcomesFollowTheSolverStatus) {
-    AirState s;
-    s.B = 101.325;
-    s.t = 25.0;
-    s.d = 10.0;
-    EXPECT_EQ(solveStatePoint(4, s), kOutcomeValid);
-    EXPECT_NEAR(s.i, 50.71, 1e-12);  // 1.01·25 + 0.001·10·(1.84·25 + 2500)
-    s.d = 30.0;                       // far above saturation at 25 °C
-    EXPECT_EQ(solveStatePoint(4, s), kOutcomeImpossible);
-    s.i = 50.0;
-    EXPECT_EQ(solveStatePoint(5, s), kOutcomeWetBulbOnly);
-    EXPECT_EQ(solveStatePoint(0, s), kOutcomeNone);
-}
 
 // ---- Blocks of the result file ------------------------------------------------------------
 
@@ -184,27 +131,6 @@ TEST(AirMixing, MassFlowWeighting) {
     EXPECT_DOUBLE_EQ(m.i, 40.0) << "a stream without flow changes nothing";
     m = mixAirStreams({40.0, 8.0, 0.0}, {60.0, 12.0, 0.0});
     EXPECT_TRUE(std::isnan(m.i) && std::isnan(m.d)) << "no flow at all is not guarded";
-}
-
-TEST(AirMixing, TheRecordKeepsItsOtherFields) {
-    MixingRecord record;
-    for (double& v : record.values) v = -1.0;
-    storeMixingRecord(record, {91.06, 21.4, 18000.0}, {62.0, 13.0, 42000.0}, {70.718, 15.52});
-    const double expected[9] = {21.4, 91.06, -1.0, 13.0, 62.0, -1.0, 15.52, 70.718, -1.0};
-    EXPECT_TRUE(record.exists);
-    for (int k = 0; k < 9; ++k) EXPECT_EQ(record.values[k], expected[k]) << k;
-}
-
-TEST(RememberedPressure, ValidOnlyOnceRemembered) {
-    forgetPressure();
-    double kPa = -1.0;
-    EXPECT_FALSE(rememberedPressure(kPa));
-    EXPECT_EQ(kPa, -1.0);
-    rememberPressure(92.5);
-    ASSERT_TRUE(rememberedPressure(kPa));
-    EXPECT_EQ(kPa, 92.5);
-    forgetPressure();
-    EXPECT_FALSE(rememberedPressure(kPa));
 }
 
 }  // namespace
