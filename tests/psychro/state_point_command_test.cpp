@@ -318,6 +318,21 @@ TEST_F(StatePoint, AFileThatCannotBeCreatedIsReportedAndNothingIsWritten) {
     EXPECT_TRUE(fs::is_directory("wair002.txt"));
 }
 
+TEST_F(StatePoint, WithoutItsDialogFileNeitherCommandRuns) {
+    doc().symbols()[L"_DRV"] = host::lisp::makeStr((folder_ / "").wstring());  // no dwglib here
+    EXPECT_EQ(call(L"c:ci_dt").entryResult, 0);
+    EXPECT_EQ(call(L"c:airmix").entryResult, 0);
+    ASSERT_EQ(failures().size(), 2u);
+    EXPECT_EQ(failures()[0], L"Unable to initialize dialog box.");
+    EXPECT_EQ(failures()[1], L"Unable to initialize dialog box.");
+    EXPECT_TRUE(host::dcl::dialogHistory().empty());
+
+    doc().symbols().erase(L"_DRV");
+    call(L"c:ci_dt");
+    call(L"c:airmix");
+    EXPECT_EQ(alerts(), (std::vector<std::wstring>{L"找不到暖通软件目录!", L"找不到暖通软件目录!"}));
+}
+
 // ---- Points picked on the i-d chart -------------------------------------------------------
 
 TEST_F(StatePoint, WithoutAChartTheUserIsToldAndTheDialogOpensAgain) {
