@@ -24,6 +24,10 @@ int viewStatePointResults();   // "c:v_res"
 int viewCoolerResults();       // "c:scv_res"
 int deleteCoolerResults();     // "c:scdelres"
 
+// Psychrometric state point and air mixing
+int statePoint();  // "c:ci_dt"
+int airMix();      // "c:airmix"
+
 // A function of the table that this version does not provide.
 template <int Code>
 int notAvailable();

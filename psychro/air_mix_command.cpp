@@ -1,0 +1,191 @@
+// c:airmix: the state of a mixture of two air streams, each given by enthalpy, moisture content
+// and mass flow, shown in the result dialog of the state-point command.
+#include <map>
+#include <string>
+
+#include "acdbads.h"
+#include "acedads.h"
+#include "acutads.h"
+#include "adsdlg.h"
+#include "frame/handlers.h"
+#include "frame/paths.h"
+#include "frame/tile_numbers.h"
+#include "psychro/air_mix.h"
+#include "psychro/chart_marks.h"
+#include "psychro/id_chart.h"
+#include "psychro/remembered_pressure.h"
+#include "psychro/state_result_dialog.h"
+
+namespace vrn2 {
+namespace {
+
+constexpr wchar_t kMixDialogFile[] = L"dwglib\\procdlg";
+constexpr wchar_t kResultDialogFile[] = L"dwglib\\ci_dt";
+constexpr wchar_t kDialogName[] = L"airmixdlg";
+constexpr int kInputChars = 15;
+// The dialog closes with this status to show the mix on the chart.
+constexpr int kStatusShowOnChart = 4;
+
+constexpr double kLowestPressure = 70.0;   // kPa, accepted
+constexpr double kHighestPressure = 180.0; // kPa, accepted
+
+constexpr wchar_t kMsgCannotLoad[] = L"Unable to initialize dialog box.";
+constexpr wchar_t kMsgCannotCreate[] = L"Invalid Entry.";
+constexpr wchar_t kMsgBadPressure[] = L"无效的大气压值.";
+constexpr wchar_t kMsgPressureRange[] = L"大气压值在70-180kPa之间";
+constexpr wchar_t kMsgNoChart[] = L"先生成焓湿图.";
+
+struct StreamInput {
+    const wchar_t* tile;
+    const wchar_t* message;
+    const wchar_t* initialText;
+};
+// In reading order: i, d, G of stream A, then of stream B.
+constexpr StreamInput kStreamInputs[6] = {
+    {L"i_value1", L"输入A点焓值.", L"91.06"},   {L"d_value1", L"输入A点含湿量.", L"21.4"},
+    {L"g_value1", L"输入A点风量.", L"18000"},   {L"i_value2", L"输入B点焓值.", L"62.0"},
+    {L"d_value2", L"输入B点含湿量.", L"13.0"},  {L"g_value2", L"输入B点风量.", L"42000"},
+};
+
+// One run of the command: what was typed survives closing the dialog to look at the chart.
+struct Session {
+    int dclId = -1;
+    std::map<std::wstring, std::wstring> texts;
+};
+
+void initialTexts(Session& session) {
+    double kPa = 0.0;
+    if (rememberedPressure(kPa)) {
+        wchar_t text[64] = {};
+        acdbRToS(kPa, 2, kRememberedPressureDecimals, text);
+        session.texts[L"press"] = text;
+    } else {
+        session.texts[L"press"] = kStandardPressureText;
+    }
+    for (const StreamInput& input : kStreamInputs) session.texts[input.tile] = input.initialText;
+}
+
+void showError(ads_hdlg dialog, const wchar_t* message, const wchar_t* focus = nullptr) {
+    ads_set_tile(dialog, L"error", message);
+    if (focus) ads_mode_tile(dialog, focus, MODE_SETFOCUS);
+}
+
+bool readPressure(ads_hdlg dialog, double& pressure) {
+    if (!readTileNumber(dialog, L"press", kInputChars, pressure)) {
+        showError(dialog, kMsgBadPressure);
+        return false;
+    }
+    if (pressure < kLowestPressure || pressure > kHighestPressure) {
+        showError(dialog, kMsgPressureRange);
+        return false;
+    }
+    return true;
+}
+
+bool readStreams(ads_hdlg dialog, AirStream& a, AirStream& b) {
+    double* targets[6] = {&a.i, &a.d, &a.G, &b.i, &b.d, &b.G};
+    for (int k = 0; k < 6; ++k) {
+        if (!readTileNumber(dialog, kStreamInputs[k].tile, kInputChars, *targets[k])) {
+            showError(dialog, kStreamInputs[k].message, kStreamInputs[k].tile);
+            return false;
+        }
+    }
+    return true;
+}
+
+void showMixture(const ShownState& shown) {
+    int dclId = -1;
+    if (ads_load_dialog(suitePath(kResultDialogFile).c_str(), &dclId) != RTNORM || dclId < 0) {
+        acedAlert(kMsgCannotLoad);
+        return;
+    }
+    runStateResultDialog(dclId, shown);
+    ads_unload_dialog(dclId);
+}
+
+void onCompute(ads_callback_packet* packet) {
+    ads_hdlg dialog = packet->dialog;
+    ads_set_tile(dialog, L"error", L"");
+    double pressure = 0.0;
+    AirStream a, b;
+    if (!readPressure(dialog, pressure) || !readStreams(dialog, a, b)) return;
+    rememberPressure(pressure);
+    mixingInputs() = {a, b};
+
+    MixedAir mixed = mixAirStreams(a, b);
+    ShownState shown;
+    shown.choice = 1;  // saved as a state known by its enthalpy and moisture content
+    shown.state.B = pressure;
+    shown.state.i = mixed.i;
+    shown.state.d = mixed.d;
+    shown.outcome = StateFromEnthalpyMoisture(shown.state) == RTNORM ? kOutcomeValid : kOutcomeImpossible;
+    storeMixingRecord(mixingRecord(), a, b, mixed);
+    ads_mode_tile(dialog, L"i_d", MODE_ENABLE);
+    showMixture(shown);
+}
+
+void onShowOnChart(ads_callback_packet* packet) {
+    auto* session = static_cast<Session*>(packet->client_data);
+    wchar_t text[kInputChars + 1] = {};
+    for (const auto& [key, old] : session->texts)
+        if (ads_get_tile(packet->dialog, key.c_str(), text, kInputChars + 1) == RTNORM) session->texts[key] = text;
+    ads_done_dialog(packet->dialog, kStatusShowOnChart);
+}
+
+bool runMixDialog(Session& session, int& status) {
+    ads_hdlg dialog = nullptr;
+    if (ads_new_dialog(kDialogName, session.dclId, NULLCB, &dialog) != RTNORM || dialog == BAD_DIALOG) {
+        acdbFail(kMsgCannotCreate);
+        return false;
+    }
+    for (const auto& [key, text] : session.texts) ads_set_tile(dialog, key.c_str(), text.c_str());
+    ads_set_tile(dialog, L"error", L"");
+    ads_mode_tile(dialog, L"i_d", mixingRecord().exists ? MODE_ENABLE : MODE_DISABLE);
+    ads_action_tile(dialog, L"procres", onCompute);
+    ads_client_data_tile(dialog, L"i_d", &session);
+    ads_action_tile(dialog, L"i_d", onShowOnChart);
+    status = DLGCANCEL;
+    ads_start_dialog(dialog, &status);
+    return true;
+}
+
+// The mixing line from A to B and the three points on the chart. Without a chart the user is
+// told to draw one first and answers false, so that the dialog opens again.
+bool drawMixOnChart() {
+    const IdChart& chart = idChart();
+    if (!chart.drawn) {
+        acutPrintf(kMsgNoChart);
+        return false;
+    }
+    const double* r = mixingRecord().values;
+    ChartPoint pa = chartPointOf(chart, r[1], r[0]);
+    ChartPoint pb = chartPointOf(chart, r[4], r[3]);
+    ChartPoint pm = chartPointOf(chart, r[7], r[6]);
+    ads_point a = {pa.x, pa.y, 0.0}, b = {pb.x, pb.y, 0.0}, m = {pm.x, pm.y, 0.0};
+    drawChartLine(a, b);
+    for (const double* p : {a, b, m}) markChartPoint(p, chart.markDiameter);
+    return true;
+}
+
+}  // namespace
+
+int airMix() {
+    if (!loadInstallRoot()) return RTERROR;
+    Session session;
+    if (ads_load_dialog(suitePath(kMixDialogFile).c_str(), &session.dclId) != RTNORM || session.dclId < 0) {
+        acdbFail(kMsgCannotLoad);
+        return RTERROR;
+    }
+    initialTexts(session);
+    int status = DLGCANCEL;
+    do {
+        if (!runMixDialog(session, status)) {
+            ads_unload_dialog(session.dclId);
+            return RTERROR;
+        }
+    } while (status == kStatusShowOnChart && !drawMixOnChart());
+    ads_unload_dialog(session.dclId);
+    return RTNORM;
+}
+
+}  // namespace vrn2

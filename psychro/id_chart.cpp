@@ -1,0 +1,20 @@
+#include "psychro/id_chart.h"
+
+namespace vrn2 {
+
+IdChart& idChart() {
+    static IdChart chart;
+    return chart;
+}
+
+ChartPoint chartPointOf(const IdChart& chart, double i, double d) {
+    return {chart.originX + chart.moistureScale * d,
+            chart.originY + chart.enthalpyScale * (i - chart.enthalpySkew * d)};
+}
+
+void chartStateAt(const IdChart& chart, double x, double y, double& i, double& d) {
+    d = (x - chart.originX) / chart.moistureScale;
+    i = (y - chart.originY) / chart.enthalpyScale + chart.enthalpySkew * d;
+}
+
+}  // namespace vrn2

@@ -1,0 +1,192 @@
+// c:ci_dt: one humid-air state from any of nine pairs of known quantities, or from a point
+// picked on the i-d chart, shown in the result dialog and saved on request.
+#include <map>
+#include <string>
+
+#include "acdbads.h"
+#include "acedads.h"
+#include "acutads.h"
+#include "adsdlg.h"
+#include "frame/handlers.h"
+#include "frame/paths.h"
+#include "frame/tile_numbers.h"
+#include "psychro/chart_marks.h"
+#include "psychro/id_chart.h"
+#include "psychro/remembered_pressure.h"
+#include "psychro/state_point_choices.h"
+#include "psychro/state_result_dialog.h"
+
+namespace vrn2 {
+namespace {
+
+constexpr wchar_t kDialogName[] = L"ci_dt";
+constexpr int kInputChars = 15;
+// The dialog closes with this status when the user wants to pick a point on the chart.
+constexpr int kStatusPickPoint = 4;
+
+constexpr wchar_t kMsgCannotOpen[] = L"Unable to initialize dialog box.";
+constexpr wchar_t kMsgBadPressure[] = L"无效的大气压值.";
+constexpr wchar_t kMsgWetAboveDry[] = L"TS值不能大于T值.";
+constexpr wchar_t kMsgNoChart[] = L"先生成焓湿图.";
+constexpr wchar_t kPickPrompt[] = L"\n选择点: ";
+
+// The chosen pair, remembered while the module is loaded so the dialog opens with it.
+int g_choice = kDefaultChoice;
+
+// One run of the command. The dialog closes to let the user pick a point and then opens
+// again; what was typed is carried over.
+struct Session {
+    int dclId = -1;
+    std::map<std::wstring, std::wstring> texts;
+    bool markPickedPoint = false;
+    struct RadioData {
+        Session* session;
+        int choice;
+    } radios[kChoiceCount];
+};
+
+constexpr const wchar_t* kKeptTiles[] = {L"pressure", L"temp", L"ih", L"d", L"fy", L"ts", L"tl", L"db", L"symbol"};
+
+void applyChoice(ads_hdlg dialog, int choice) {
+    ads_set_tile(dialog, statePointChoice(choice)->radioKey, L"1");
+    for (const wchar_t* tile : kInputTiles)
+        ads_mode_tile(dialog, tile, choiceReadsTile(choice, tile) ? MODE_ENABLE : MODE_DISABLE);
+}
+
+void showError(ads_hdlg dialog, const wchar_t* message, const wchar_t* focus = nullptr) {
+    ads_set_tile(dialog, L"error", message);
+    if (focus) ads_mode_tile(dialog, focus, MODE_SETFOCUS);
+}
+
+// Reads the pressure and the choice's inputs in order; the first fault shows its message and
+// answers false. A pressure that is not a number shows nothing.
+bool readInputs(ads_hdlg dialog, int choice, AirState& state) {
+    double pressure = 0.0;
+    if (!readTileNumber(dialog, L"pressure", kInputChars, pressure)) return false;
+    if (pressure <= 0.0) {
+        showError(dialog, kMsgBadPressure);
+        return false;
+    }
+    rememberPressure(pressure);
+    state.B = pressure;
+    const StatePointChoice& c = *statePointChoice(choice);
+    for (int k = 0; k < c.inputCount; ++k) {
+        const ChoiceInput& input = c.inputs[k];
+        if (!readTileNumber(dialog, input.tile, kInputChars, fieldOf(state, input.field))) {
+            showError(dialog, input.message, inputTakesFocus(c, k) ? input.tile : nullptr);
+            return false;
+        }
+    }
+    if (wetBulbAboveDryBulb(choice, state)) {
+        showError(dialog, kMsgWetAboveDry, L"ts");
+        return false;
+    }
+    return true;
+}
+
+void onChoice(ads_callback_packet* packet) {
+    const auto* radio = static_cast<const Session::RadioData*>(packet->client_data);
+    if (!radio || !packet->value || packet->value[0] != L'1') return;
+    g_choice = radio->choice;
+    applyChoice(packet->dialog, g_choice);
+}
+
+void onResult(ads_callback_packet* packet) {
+    const auto* session = static_cast<const Session*>(packet->client_data);
+    ads_set_tile(packet->dialog, L"error", L"");
+    ShownState shown;
+    shown.choice = g_choice;
+    if (!readInputs(packet->dialog, g_choice, shown.state)) return;
+    shown.outcome = solveStatePoint(g_choice, shown.state);
+    runStateResultDialog(session->dclId, shown);
+}
+
+void keepTexts(ads_hdlg dialog, Session& session) {
+    for (const wchar_t* key : kKeptTiles) {
+        wchar_t text[kInputChars + 1] = {};
+        if (ads_get_tile(dialog, key, text, kInputChars + 1) == RTNORM) session.texts[key] = text;
+    }
+    session.markPickedPoint = session.texts[L"symbol"] == L"1";
+}
+
+void onSelectPoint(ads_callback_packet* packet) {
+    auto* session = static_cast<Session*>(packet->client_data);
+    keepTexts(packet->dialog, *session);
+    ads_done_dialog(packet->dialog, kStatusPickPoint);
+}
+
+void fillDialog(ads_hdlg dialog, Session& session) {
+    if (session.texts.empty()) {
+        double kPa = 0.0;
+        if (rememberedPressure(kPa))
+            showTileNumber(dialog, L"pressure", kPa, kRememberedPressureDecimals);
+        else
+            ads_set_tile(dialog, L"pressure", kStandardPressureText);
+    }
+    for (const auto& [key, text] : session.texts) ads_set_tile(dialog, key.c_str(), text.c_str());
+    applyChoice(dialog, g_choice);
+    for (int c = 1; c <= kChoiceCount; ++c) {
+        session.radios[c - 1] = {&session, c};
+        const wchar_t* key = statePointChoice(c)->radioKey;
+        ads_client_data_tile(dialog, key, &session.radios[c - 1]);
+        ads_action_tile(dialog, key, onChoice);
+    }
+    ads_client_data_tile(dialog, L"result", &session);
+    ads_action_tile(dialog, L"result", onResult);
+    ads_client_data_tile(dialog, L"sel_point", &session);
+    ads_action_tile(dialog, L"sel_point", onSelectPoint);
+}
+
+// Runs the main dialog once; false when it cannot be created.
+bool runMainDialog(Session& session, int& status) {
+    ads_hdlg dialog = nullptr;
+    if (ads_new_dialog(kDialogName, session.dclId, NULLCB, &dialog) != RTNORM || dialog == BAD_DIALOG) {
+        acdbFail(kMsgCannotOpen);
+        return false;
+    }
+    fillDialog(dialog, session);
+    status = DLGCANCEL;
+    ads_start_dialog(dialog, &status);
+    return true;
+}
+
+// The state under a point picked on the chart, solved at the pressure the chart was drawn for.
+void stateFromPickedPoint(const Session& session) {
+    const IdChart& chart = idChart();
+    if (!chart.drawn) {
+        acutPrintf(kMsgNoChart);
+        return;
+    }
+    ads_point picked = {0.0, 0.0, 0.0};
+    if (acedGetPoint(nullptr, kPickPrompt, picked) != RTNORM) return;
+    ShownState shown;
+    shown.choice = kChoicePickedPoint;
+    shown.state.B = chart.B;
+    chartStateAt(chart, picked[X], picked[Y], shown.state.i, shown.state.d);
+    shown.outcome = StateFromEnthalpyMoisture(shown.state) == RTNORM ? kOutcomeValid : kOutcomeImpossible;
+    if (session.markPickedPoint) markChartPoint(picked, chart.markDiameter);
+    runStateResultDialog(session.dclId, shown);
+}
+
+}  // namespace
+
+int statePoint() {
+    if (!loadInstallRoot()) return RTERROR;
+    Session session;
+    if (ads_load_dialog(suitePath(kStatePointDialogFile).c_str(), &session.dclId) != RTNORM || session.dclId < 0) {
+        acdbFail(kMsgCannotOpen);
+        return RTERROR;
+    }
+    int status = DLGCANCEL;
+    do {
+        if (!runMainDialog(session, status)) {
+            ads_unload_dialog(session.dclId);
+            return RTERROR;
+        }
+        if (status == kStatusPickPoint) stateFromPickedPoint(session);
+    } while (status == kStatusPickPoint);
+    ads_unload_dialog(session.dclId);
+    return RTNORM;
+}
+
+}  // namespace vrn2
