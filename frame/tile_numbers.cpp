@@ -10,11 +10,18 @@ namespace {
 constexpr int kDecimalUnits = 2;
 }
 
+bool readTileText(ads_hdlg dialog, const wchar_t* key, int maxChars, std::wstring& text) {
+    std::vector<wchar_t> buffer(static_cast<size_t>(maxChars) + 1, L'\0');
+    if (ads_get_tile(dialog, key, buffer.data(), maxChars + 1) != RTNORM) return false;
+    text = buffer.data();
+    return true;
+}
+
 bool readTileNumber(ads_hdlg dialog, const wchar_t* key, int maxChars, double& value) {
-    std::vector<wchar_t> text(static_cast<size_t>(maxChars) + 1, L'\0');
-    if (ads_get_tile(dialog, key, text.data(), maxChars + 1) != RTNORM) return false;
+    std::wstring text;
+    if (!readTileText(dialog, key, maxChars, text)) return false;
     double parsed = 0.0;
-    if (acdbDisToF(text.data(), kDecimalUnits, &parsed) != RTNORM) return false;
+    if (acdbDisToF(text.c_str(), kDecimalUnits, &parsed) != RTNORM) return false;
     value = parsed;
     return true;
 }

@@ -126,9 +126,7 @@ void onCompute(ads_callback_packet* packet) {
 
 void onShowOnChart(ads_callback_packet* packet) {
     auto* session = static_cast<Session*>(packet->client_data);
-    wchar_t text[kInputChars + 1] = {};
-    for (const auto& [key, old] : session->texts)
-        if (ads_get_tile(packet->dialog, key.c_str(), text, kInputChars + 1) == RTNORM) session->texts[key] = text;
+    for (auto& [key, text] : session->texts) readTileText(packet->dialog, key.c_str(), kInputChars, text);
     ads_done_dialog(packet->dialog, kStatusShowOnChart);
 }
 

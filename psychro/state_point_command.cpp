@@ -102,10 +102,7 @@ void onResult(ads_callback_packet* packet) {
 }
 
 void keepTexts(ads_hdlg dialog, Session& session) {
-    for (const wchar_t* key : kKeptTiles) {
-        wchar_t text[kInputChars + 1] = {};
-        if (ads_get_tile(dialog, key, text, kInputChars + 1) == RTNORM) session.texts[key] = text;
-    }
+    for (const wchar_t* key : kKeptTiles) readTileText(dialog, key, kInputChars, session.texts[key]);
     session.markPickedPoint = session.texts[L"symbol"] == L"1";
 }
 

@@ -1,6 +1,6 @@
-// "c:gscal": the supply-air dialog. It opens with the inputs of the last calculation (the
-// defaults before the first), checks the inputs in a fixed order when "cal" is pressed, and
-// shows the result over the dialog, which stays open for the next case.
+// "c:gscal": the supply-air dialog. It opens with the standard inputs, checks the inputs in a
+// fixed order when "cal" is pressed, and shows the result over the dialog, which stays open
+// for the next case.
 #include <string>
 
 #include "acedads.h"
@@ -29,14 +29,9 @@ constexpr int kMaxInputChars = 30;
 constexpr const wchar_t* kInputKeys[] = {L"B", L"tn_value", L"rhn_value", L"q_value", L"w_value", L"dt_value"};
 constexpr int kInputCount = sizeof kInputKeys / sizeof kInputKeys[0];
 
-// What the dialog opens with: the texts and toggles of the last calculation, for as long as
-// the module is loaded.
-struct RememberedInputs {
-    std::wstring texts[kInputCount] = {L"101.325", L"22", L"60", L"11.6", L"5", L"6"};
-    bool totalLoad = true;
-    bool moistureGiven = true;
-};
-RememberedInputs g_remembered;
+// What the dialog opens with every time: a standard atmosphere, a room at 22 °C and 60 %,
+// 11.6 kW of total load with 5 kg/h of moisture, supplied 6 K below the room.
+constexpr const wchar_t* kDefaultTexts[kInputCount] = {L"101.325", L"22", L"60", L"11.6", L"5", L"6"};
 
 struct Session {
     int dclId = -1;
@@ -45,12 +40,6 @@ struct Session {
 bool toggleOn(ads_hdlg dialog, const wchar_t* key) {
     wchar_t value[8] = {};
     return ads_get_tile(dialog, key, value, 7) == RTNORM && value[0] == L'1';
-}
-
-std::wstring tileText(ads_hdlg dialog, const wchar_t* key) {
-    wchar_t text[kMaxInputChars + 1] = {};
-    if (ads_get_tile(dialog, key, text, kMaxInputChars + 1) != RTNORM) return L"";
-    return text;
 }
 
 void showLoadKind(ads_hdlg dialog, bool totalLoad) {
@@ -78,12 +67,6 @@ SupplyAirReadings readInputs(ads_hdlg dialog) {
     return r;
 }
 
-void rememberInputs(ads_hdlg dialog, const SupplyAirReadings& r) {
-    for (int k = 0; k < kInputCount; ++k) g_remembered.texts[k] = tileText(dialog, kInputKeys[k]);
-    g_remembered.totalLoad = r.totalLoad;
-    g_remembered.moistureGiven = r.moistureGiven;
-}
-
 void onCalculate(ads_callback_packet* packet) {
     const auto* session = static_cast<const Session*>(packet->client_data);
     ads_hdlg dialog = packet->dialog;
@@ -94,7 +77,6 @@ void onCalculate(ads_callback_packet* packet) {
         ads_mode_tile(dialog, fault->key, MODE_SETFOCUS);
         return;
     }
-    rememberInputs(dialog, readings);
     SupplyAirInput input = supplyAirInput(readings);
     SupplyAirResult result;
     if (computeSupplyAir(input, result) != RTNORM) {
@@ -116,11 +98,11 @@ void onHelp(ads_callback_packet* packet) {
 }
 
 void fillInputs(ads_hdlg dialog) {
-    for (int k = 0; k < kInputCount; ++k) ads_set_tile(dialog, kInputKeys[k], g_remembered.texts[k].c_str());
-    ads_set_tile(dialog, L"q", g_remembered.totalLoad ? L"1" : L"0");
-    ads_set_tile(dialog, L"w", g_remembered.moistureGiven ? L"1" : L"0");
-    showLoadKind(dialog, g_remembered.totalLoad);
-    showMoistureGiven(dialog, g_remembered.moistureGiven);
+    for (int k = 0; k < kInputCount; ++k) ads_set_tile(dialog, kInputKeys[k], kDefaultTexts[k]);
+    ads_set_tile(dialog, L"q", L"1");
+    ads_set_tile(dialog, L"w", L"1");
+    showLoadKind(dialog, true);
+    showMoistureGiven(dialog, true);
 }
 
 void connectActions(ads_hdlg dialog, Session& session) {

@@ -21,8 +21,8 @@ struct ShownResult {
 };
 
 std::wstring tileText(ads_hdlg dialog, const wchar_t* key) {
-    wchar_t text[TILE_STR_LIMIT + 1] = {};
-    if (ads_get_tile(dialog, key, text, TILE_STR_LIMIT) != RTNORM) return L"";
+    std::wstring text;
+    readTileText(dialog, key, TILE_STR_LIMIT - 1, text);
     return text;
 }
 

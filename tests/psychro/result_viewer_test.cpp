@@ -64,6 +64,28 @@ TEST_F(ResultViewer, ASavedCalculationIsListedLineByLine) {
     EXPECT_EQ(e[20], L"             湿球温度 ℃   :    13.742");
 }
 
+TEST_F(ResultViewer, AStatePointSavedTwiceIsListedWithItsTitleOnceAndItsLastLineTwice) {
+    for (int run = 0; run < 2; ++run) {
+        queue(L"ci_dt", {set(L"tfy", L"1"), set(L"temp", L"20"), set(L"fy", L"50"), press(L"result")});
+        queue(L"i_dresdlg", {press(L"saveres")});
+        call(L"c:ci_dt");
+    }
+    queue(L"v_resdlg", {press(L"resintr"), press(L"accept")});
+    call(L"c:v_res");
+    Entries e = listed();
+    // Title (after its leading line feed), then two blocks of nine lines; the file ends with
+    // a line feed, so its last row comes twice.
+    ASSERT_EQ(e.size(), 2u + 2 * 9 + 1);
+    EXPECT_EQ(e[1], L"          空气状态与处理过程计算结果 ");
+    EXPECT_EQ(e[3], L"________________________________________________");
+    EXPECT_EQ(e[5], L"                  (大气压B=101.325 kPa )");
+    EXPECT_EQ(e[7], L"           已知T=20.00℃,FY=50.00(%),求其它参数:");
+    EXPECT_EQ(e[e.size() - 1], e[e.size() - 2]);
+    EXPECT_EQ(e[e.size() - 1].rfind(L"                  焓值IH(kJ/kg):   ", 0), 0u) << host::toUtf8(e.back());
+    EXPECT_EQ(dialog(L"introduce2")->file.filename(), "ci_dt.dcl");
+    EXPECT_TRUE(failures().empty());
+}
+
 TEST_F(ResultViewer, ResintrOpensTheExplanationOfTheSameDialogFile) {
     writeFile("gscal.txt", "x\n");
     writeFile("sccal.txt", "y\n");

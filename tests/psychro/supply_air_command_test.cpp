@@ -149,17 +149,15 @@ TEST_F(SupplyAirCommand, AnImpossibleCaseIsReportedInTheDialog) {
     EXPECT_EQ(runs(L"gscalres"), 1);
 }
 
-TEST_F(SupplyAirCommand, TheDialogOpensWithTheInputsOfTheLastCalculation) {
-    queue(L"gs_caldlg", {set(L"tn_value", L"26"), set(L"q", L"0"), press(L"cal")});
-    gscal();
-    queue(L"gs_caldlg", {set(L"B", L"bad"), press(L"cal")});  // refused: not remembered
+TEST_F(SupplyAirCommand, TheDialogOpensWithTheStandardInputsEveryTime) {
+    queue(L"gs_caldlg", {set(L"tn_value", L"26"), set(L"q", L"0"), set(L"w", L"0"), press(L"cal")});
     gscal();
     gscal();
     const auto* main = dialog(L"gs_caldlg");
-    EXPECT_EQ(main->value(L"tn_value"), L"26");
-    EXPECT_EQ(main->value(L"B"), L"101.325");
-    EXPECT_EQ(main->value(L"q"), L"0");
-    EXPECT_EQ(main->value(L"q_text"), L"  显热冷负荷(kW):  ");
+    const std::pair<const wchar_t*, const wchar_t*> expected[] = {
+        {L"B", L"101.325"}, {L"tn_value", L"22"}, {L"rhn_value", L"60"}, {L"q_value", L"11.6"},
+        {L"w_value", L"5"}, {L"dt_value", L"6"}, {L"q", L"1"}, {L"w", L"1"}, {L"q_text", L"  总热冷负荷(kW):  "}};
+    for (const auto& [key, text] : expected) EXPECT_EQ(main->value(key), text) << key;
 }
 
 TEST_F(SupplyAirCommand, HelpOpensTheExplanation) {
