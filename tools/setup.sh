@@ -26,7 +26,15 @@ case "$what" in
   example)
     out="$build/example-run"
     mkdir -p "$out"
-    "$build/adscon" --cwd "$out" --reg 'SysPath=C:\Vornex\' "$here/examples/first-steps.lsp"
+    # Result files are appended to; start from none so the run shows just its own results.
+    rm -f "$out/wair002.txt" "$out/gscal.txt"
+    "$build/adscon" --cwd "$out" --reg 'SysPath=C:\Vornex\' \
+      "$here/examples/first-steps.lsp" "$here/examples/air-calculations.lsp"
+    for f in gscal.txt wair002.txt; do
+      printf '\n\n===== %s =====\n' "$out/$f"
+      cat "$out/$f"
+    done
+    echo
     ;;
   test)
     cd "$build" && ctest --output-on-failure -j"$(nproc)"
