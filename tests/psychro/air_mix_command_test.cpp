@@ -3,45 +3,20 @@
 // and the mixing record kept for the chart. The mixture of the initial streams is worked by
 // hand: iM = (18000·91.06 + 42000·62.0)/60000 = 70.718, dM = (18000·21.4 + 42000·13.0)/60000
 // = 15.52, t = (70.718 − 0.001·15.52·2500)/(0.001·15.52·1.84 + 1.01) = 30.733 °C.
-#include <unistd.h>
-
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "frame/handlers.h"
 #include "host/dcl/dcl.h"
 #include "psychro/air_mix.h"
 #include "psychro/id_chart.h"
-#include "tests/support/host_session.h"
+#include "tests/psychro/result_file_session.h"
 
 namespace {
 
-namespace fs = std::filesystem;
 using host::dcl::lastDialog;
-using testing_support::HostSession;
 
-class AirMix : public HostSession {
+class AirMix : public result_file_test::ResultFileSession {
 protected:
-    void SetUp() override {
-        HostSession::SetUp();
-        host::dcl::clearDialogHistory();
-        const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        folder_ = fs::temp_directory_path() / ("vrn2-air-mix-" + std::to_string(::getpid()) + "-" + info->name());
-        fs::remove_all(folder_);
-        fs::create_directories(folder_);
-        previous_ = fs::current_path();
-        fs::current_path(folder_);
-    }
-    void TearDown() override {
-        fs::current_path(previous_);
-        fs::remove_all(folder_);
-        HostSession::TearDown();
-    }
-    void queue(const std::wstring& dialog, const std::wstring& actions) {
-        ASSERT_EQ(eval(L"(host-dialog \"" + dialog + L"\" '(" + actions + L"))"), L"T");
-    }
     const host::dcl::DialogRecord& runMix() {
         EXPECT_TRUE(call(L"c:airmix").defined);
         const host::dcl::DialogRecord* mix = lastDialog(L"airmixdlg");
@@ -49,13 +24,6 @@ protected:
         static const host::dcl::DialogRecord none;
         return mix ? *mix : none;
     }
-    int timesOpened(const wchar_t* name) {
-        int n = 0;
-        for (const auto& record : host::dcl::dialogHistory()) n += record.name == name;
-        return n;
-    }
-
-    fs::path folder_, previous_;
 };
 
 TEST_F(AirMix, TheDialogOpensWithTheFixedTextsAndNoChartButton) {
@@ -170,10 +138,7 @@ TEST_F(AirMix, TheMixIsSavedAsAStateOfKnownEnthalpyAndMoisture) {
     queue(L"airmixdlg", LR"((press "procres"))");
     queue(L"i_dresdlg", LR"((press "saveres"))");
     runMix();
-    std::ifstream in("wair002.txt", std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    EXPECT_EQ(s.str(),
+    EXPECT_EQ(fileBytes("wair002.txt"),
               "\n          空气状态与处理过程计算结果 \n"
               "\n________________________________________________\n"
               "\n                 (大气压B=101.325 kPa )\n"
@@ -187,7 +152,7 @@ TEST_F(AirMix, WithoutAChartTheDialogOpensAgainWithWhatWasTyped) {
     queue(L"airmixdlg", LR"((set "g_value2" "30000") (press "procres") (press "i_d"))");
     runMix();
     EXPECT_EQ(printed(), L"先生成焓湿图.");
-    EXPECT_EQ(timesOpened(L"airmixdlg"), 2);
+    EXPECT_EQ(runs(L"airmixdlg"), 2);
     EXPECT_EQ(lastDialog(L"airmixdlg")->value(L"g_value2"), L"30000");
     EXPECT_TRUE(lastDialog(L"airmixdlg")->tile(L"i_d")->enabled);
 }
@@ -231,7 +196,7 @@ TEST_F(AirMixOnChart, TheMixingLineAndItsPointsAreDrawnOnTheChart) {
     chart.markDiameter = 2.0;
     queue(L"airmixdlg", LR"((press "procres") (press "i_d"))");
     runOwnCopy();
-    EXPECT_EQ(timesOpened(L"airmixdlg"), 1) << "the command ends once the mix is drawn";
+    EXPECT_EQ(runs(L"airmixdlg"), 1) << "the command ends once the mix is drawn";
     // A (21.4, 91.06) lies at x = 214, y = 91.06 − 53.5 = 37.56; B (13, 62) at (130, 29.5);
     // M (15.52, 70.718) at (155.2, 31.918). The line A-B comes first, then the three marks.
     std::wstring all = eval(LR"((progn (setq e (entnext) out "") (while e (setq out (strcat out (cdr (assoc 0 (entget e))) " ")) (setq e (entnext e))) out))");

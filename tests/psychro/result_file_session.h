@@ -1,6 +1,6 @@
-// A host session for the supply-air and result-file commands: a temporary folder as the current
-// folder (where result files go), a fresh dialog history, and helpers for scripted dialogs and
-// for files read and written as bytes.
+// A host session for the psychrometric commands and their result files: a temporary folder as
+// the current folder (where result files go), a fresh dialog history, and helpers for
+// scripted dialogs and for files read and written as bytes.
 #pragma once
 
 #include <unistd.h>
@@ -53,6 +53,11 @@ protected:
 
     void queue(const std::wstring& dialog, std::vector<host::DialogAction> actions) {
         host::queueDialogActions(dialog, std::move(actions));
+    }
+    // The same through the console, with ACTIONS written as in a script:
+    // (set "temp" "20") (press "result") ...
+    void queue(const std::wstring& dialog, const std::wstring& actions) {
+        ASSERT_EQ(eval(L"(host-dialog \"" + dialog + L"\" '(" + actions + L"))"), L"T");
     }
     const host::dcl::DialogRecord* dialog(const std::wstring& name) { return host::dcl::lastDialog(name); }
     int runs(const std::wstring& name) const {

@@ -2,49 +2,23 @@
 // their focus, and the result file read back byte for byte. Expected values are worked by hand
 // from the relations of the humid-air library (Hyland-Wexler saturation pressure over water,
 // d = 622·pq/(P − pq), i = 1.01·t + 0.001·d·(1.84·t + 2500)), evaluated independently in Python.
-#include <unistd.h>
-
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "frame/handlers.h"
 #include "host/dcl/dcl.h"
 #include "host/runtime/input.h"
 #include "psychro/id_chart.h"
-#include "tests/support/host_session.h"
+#include "tests/psychro/result_file_session.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using host::dcl::lastDialog;
-using testing_support::HostSession;
 
 // A session in a fresh current folder, where the result file is written.
-class StatePoint : public HostSession {
+class StatePoint : public result_file_test::ResultFileSession {
 protected:
-    void SetUp() override {
-        HostSession::SetUp();
-        host::dcl::clearDialogHistory();
-        const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        folder_ = fs::temp_directory_path() /
-                  ("vrn2-state-point-" + std::to_string(::getpid()) + "-" + info->name());
-        fs::remove_all(folder_);
-        fs::create_directories(folder_);
-        previous_ = fs::current_path();
-        fs::current_path(folder_);
-    }
-    void TearDown() override {
-        fs::current_path(previous_);
-        fs::remove_all(folder_);
-        HostSession::TearDown();
-    }
-
-    // Queues ACTIONS, written as in a script: (set "temp" "20") (press "result") ...
-    void queue(const std::wstring& dialog, const std::wstring& actions) {
-        ASSERT_EQ(eval(L"(host-dialog \"" + dialog + L"\" '(" + actions + L"))"), L"T");
-    }
     // Runs c:ci_dt in the loaded module and answers the tiles of the main dialog when it closed.
     const host::dcl::DialogRecord& runStatePoint() {
         result_ = call(L"c:ci_dt");
@@ -54,19 +28,13 @@ protected:
         static const host::dcl::DialogRecord none;
         return main ? *main : none;
     }
-    static std::string fileBytes(const char* name = "wair002.txt") {
-        std::ifstream in(name, std::ios::binary);
-        std::stringstream s;
-        s << in.rdbuf();
-        return s.str();
-    }
+    std::string fileBytes(const char* name = "wair002.txt") const { return ResultFileSession::fileBytes(name); }
     static int countOf(const std::wstring& text, const std::wstring& part) {
         int n = 0;
         for (size_t at = text.find(part); at != std::wstring::npos; at = text.find(part, at + 1)) ++n;
         return n;
     }
 
-    fs::path folder_, previous_;
     host::CallResult result_;
 };
 
@@ -319,7 +287,7 @@ TEST_F(StatePoint, AFileThatCannotBeCreatedIsReportedAndNothingIsWritten) {
 }
 
 TEST_F(StatePoint, WithoutItsDialogFileNeitherCommandRuns) {
-    doc().symbols()[L"_DRV"] = host::lisp::makeStr((folder_ / "").wstring());  // no dwglib here
+    useRoot("empty");  // no dwglib here
     EXPECT_EQ(call(L"c:ci_dt").entryResult, 0);
     EXPECT_EQ(call(L"c:airmix").entryResult, 0);
     ASSERT_EQ(failures().size(), 2u);
