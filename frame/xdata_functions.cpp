@@ -15,7 +15,6 @@ namespace {
 
 constexpr wchar_t kMsgFirstNotEntity[] = L"\nFirst of Argument should be entity name.";
 constexpr wchar_t kMsgSecondNotApplication[] = L"\nSecond of Argument should be Registered application name.";
-constexpr wchar_t kMsgBadKind[] = L"\nMessage type should be 0 or 1";
 
 int fail(const wchar_t* message) {
     acutPrintf(L"%s", message);

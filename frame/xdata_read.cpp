@@ -12,11 +12,6 @@
 #include "frame/xdata_messages.h"
 
 namespace vrn2 {
-namespace {
-
-constexpr wchar_t kMsgBadKind[] = L"\nMessage type should be 0 or 1";
-
-}  // namespace
 
 int readXdata(const ads_name entity, const ACHAR* application, int kind, resbuf** result) {
     *result = nullptr;
