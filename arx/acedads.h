@@ -37,8 +37,20 @@ int acedSetVar(const ACHAR* sym, const struct resbuf* val);
 int acedCommand(int rtype, ...);
 int acedCmd(const struct resbuf* rbp);
 
-// User input
+// User input. The get-functions answer RTNORM, RTNONE for a bare Enter (unless RSG_NONULL),
+// RTKWORD for a keyword of acedInitGet's list (read it with acedGetInput), RTCAN when the
+// user cancels, RTREJ while a dialog is open, RTERROR otherwise. acedInitGet applies to the
+// next request only. acedGetString keeps at most 132 characters (RTINPUTTRUNCATED beyond);
+// acedGetKword and acedGetInput at most 131.
 int acedInitGet(int val, const ACHAR* kwl);
+int acedGetInput(ACHAR* str);
+int acedGetReal(const ACHAR* prompt, ads_real* result);
+int acedGetInt(const ACHAR* prompt, int* result);
+int acedGetDist(const ads_point pt, const ACHAR* prompt, ads_real* result);
+int acedGetAngle(const ads_point pt, const ACHAR* prompt, ads_real* result);
+int acedGetKword(const ACHAR* prompt, ACHAR* result);
+int acedGetString(int cronly, const ACHAR* prompt, ACHAR* result);
+int acedGetCorner(const ads_point pt, const ACHAR* prompt, ads_point result);
 int acedEntSel(const ACHAR* str, ads_name entres, ads_point ptres);
 int acedGetPoint(const ads_point pt, const ACHAR* prompt, ads_point result);
 

@@ -18,7 +18,7 @@
 #include "acutads.h"
 #include "host/db/database.h"
 #include "host/runtime/host.h"
-#include "host/runtime/resbuf.h"
+#include "host/db/resbuf.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 
 #include "adsdef.h"
 #include "host/runtime/commands.h"
-#include "host/runtime/resbuf.h"
+#include "host/db/resbuf.h"
 
 namespace host {
 class SysVars;

@@ -5,7 +5,6 @@
 // scales the view, a bare n scales the view of the limits.
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <vector>
 
 #include "adscodes.h"
@@ -24,11 +23,12 @@ struct View {
     double height;
 };
 
-// Views to go back to, per drawing.
-std::vector<View>& history() {
-    static std::map<long, std::vector<View>> views;
-    return views[database().serial()];
-}
+// Views to go back to: they belong to the drawing.
+struct ViewHistory {
+    std::vector<View> views;
+};
+
+std::vector<View>& history() { return Host::instance().current().data<ViewHistory>().views; }
 
 double aspect() {
     const SysVarValue* s = vars().find(L"SCREENSIZE");

@@ -11,10 +11,11 @@
 #include <vector>
 
 #include "host/db/database.h"
+#include "host/dcl/dialog_script.h"
 #include "host/lisp/interpreter.h"
-#include "host/runtime/dialog_script.h"
+#include "host/output.h"
 #include "host/runtime/host.h"
-#include "host/runtime/output.h"
+#include "host/runtime/input.h"
 #include "host/text.h"
 #include "host/win/registry.h"
 
@@ -61,7 +62,7 @@ cos atan exp log expt min max = /= < > <= >= zerop minusp numberp; car cdr cadr 
 cdar caddr cadar cdddr cons list append reverse length nth last member assoc subst null not
 atom listp eq equal type; strcat strlen substr strcase itoa atoi atof chr ascii wcmatch;
 princ prin1 print terpri alert; getvar setvar command polar angle distance trans rtos
-distof; entlast entnext entget entmake entmod entdel handent regapp tblsearch xdroom ssget
+distof; initget getreal getint getdist getangle getcorner getkword getstring; entlast entnext entget entmake entmod entdel handent regapp tblsearch xdroom ssget
 sslength ssname ssadd ssdel ssmemb; and every function the module registers, called with its
 arguments converted as the editor converts them (a list of two or three numbers arrives as a
 point, integers as short integers, nil as nil, T as T).
@@ -77,7 +78,18 @@ Headless forms:
                               are strings: dialog names and tile keys are case-sensitive.
   (host-entsel ENAME POINT)   queue the answer of the next entity pick
   (host-getpoint POINT)       queue the answer of the next point pick
-  An empty pick queue answers as a cancelled pick.
+  (host-input VALUE ...)      queue replies typed at the prompts of the get-functions
+                              (acedGetReal, acedGetInt, acedGetDist, acedGetAngle,
+                              acedGetCorner, acedGetKword, acedGetString and the AutoLISP
+                              functions of the same names). Each request takes the next
+                              reply, whatever kind it asks for: a number, a string (typed
+                              text: a number, a keyword of initget, "X,Y" for a point), a
+                              point as a list of two or three numbers, or nil for a bare
+                              Enter. A reply the request refuses prints the editor's message
+                              (for example "Requires numeric value." or "Value must be
+                              positive and nonzero.") and the request takes the next one.
+  An empty pick or reply queue answers as a cancelled request (RTCAN; in AutoLISP the
+  error "Function cancelled").
 
 Exit status: 0 when everything ran, 1 when an AutoLISP error stopped a script,
 2 for bad options or unreadable files (drawing, script, module, save).
@@ -248,6 +260,9 @@ int main(int argc, char** argv) {
     }
     for (auto& name : pendingDialogNames())
         std::cerr << "adscon: actions queued for dialog " << toUtf8(name) << " were not used\n";
+    if (size_t unused = pendingTypedReplies())
+        std::cerr << "adscon: " << unused << " queued typed " << (unused == 1 ? "reply was" : "replies were")
+                  << " not used\n";
 
     if (!o.save.empty()) {
         if (status != kExitOk) {

@@ -1,17 +1,28 @@
 #include "host/db/api_support.h"
 
-#include "host/runtime/host.h"
+#include "host/db/sysvars.h"
+#include "host/session.h"
 
 namespace host::db {
+namespace {
 
-Database* currentDb() {
-    Host& host = Host::instance();
-    return host.hasDocument() ? &host.current().database() : nullptr;
+struct CurrentDrawing {
+    Database* database = nullptr;
+};
+
+}  // namespace
+
+Database* currentDb() { return sessionPart<CurrentDrawing>().database; }
+
+void setCurrentDb(Database* db) { sessionPart<CurrentDrawing>().database = db; }
+
+SysVars* currentVariables() {
+    Database* db = currentDb();
+    return db ? db->sysvars() : nullptr;
 }
 
 void setErrno(short value) {
-    Host& host = Host::instance();
-    if (host.hasDocument()) host.current().sysvars().setShort(L"ERRNO", value);
+    if (SysVars* vars = currentVariables()) vars->setShort(L"ERRNO", value);
 }
 
 }  // namespace host::db

@@ -5,8 +5,13 @@
 
 namespace host::db {
 
-// The database of the current document; null when no document is open.
+// The database of the current document; null when no document is open. The runtime keeps
+// it in step with its current document (setCurrentDb); the interface functions of this layer
+// work on it.
 Database* currentDb();
+void setCurrentDb(Database* db);
+// The system variables of the current document; null when no document is open.
+SysVars* currentVariables();
 
 // Error numbers of the ERRNO system variable.
 enum Errno : short {

@@ -12,6 +12,7 @@
 #include "host/db/database.h"
 #include "host/db/dxf_writer.h"
 #include "host/db/save_fault.h"
+#include "host/session.h"
 #include "host/text.h"
 
 namespace host::db {
@@ -26,10 +27,11 @@ std::filesystem::path platformPath(const std::filesystem::path& path) {
 
 std::wstring systemError(int err) { return fromUtf8(std::strerror(err)); }
 
-SaveFault& saveFault() {
-    static SaveFault fault;
-    return fault;
-}
+struct ArmedSaveFault {
+    SaveFault fault;
+};
+
+SaveFault& saveFault() { return sessionPart<ArmedSaveFault>().fault; }
 
 class FileSink : public OutputSink {
 public:

@@ -5,7 +5,7 @@
 #include <unordered_set>
 
 #include "host/db/blob.h"
-#include "host/runtime/groupcodes.h"
+#include "host/db/groupcodes.h"
 #include "host/text.h"
 
 namespace host::db {

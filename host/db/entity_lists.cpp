@@ -3,7 +3,7 @@
 #include "adscodes.h"
 #include "host/db/resbuf_groups.h"
 #include "host/db/wildcard.h"
-#include "host/runtime/resbuf.h"
+#include "host/db/resbuf.h"
 
 namespace host::db {
 

@@ -1,15 +1,15 @@
 #include "host/db/entity_rules.h"
 
 #include "host/db/api_support.h"
+#include "host/db/sysvars.h"
 #include "host/db/tables.h"
-#include "host/runtime/host.h"
 
 namespace host::db {
 
 std::wstring currentLayer() {
-    Host& host = Host::instance();
-    if (!host.hasDocument()) return L"0";
-    const SysVarValue* v = host.current().sysvars().find(L"CLAYER");
+    SysVars* vars = currentVariables();
+    if (!vars) return L"0";
+    const SysVarValue* v = vars->find(L"CLAYER");
     return v && !v->text.empty() ? v->text : L"0";
 }
 

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/runtime/groupcodes.h"
+#include "host/db/groupcodes.h"
 
 namespace host::db {
 

@@ -3,8 +3,7 @@
 #include "adscodes.h"
 #include "host/db/blob.h"
 #include "host/db/group_values.h"
-#include "host/runtime/host.h"
-#include "host/runtime/sysvars.h"
+#include "host/db/sysvars.h"
 #include "host/text.h"
 
 namespace host::db {
@@ -202,24 +201,3 @@ SaveOverrides changesToSave(const Database& db, const SysVars& vars) {
 }
 
 }  // namespace host::db
-
-namespace {
-
-// Connects each new document's database with its system variables.
-class HeaderReactor : public AcApDocManagerReactor {
-public:
-    void documentCreated(AcApDocument* document) override {
-        auto* doc = dynamic_cast<host::Document*>(document);
-        if (!doc) return;
-        doc->database().attachSysVars(&doc->sysvars());
-        host::db::loadSysVars(doc->database(), doc->sysvars());
-    }
-};
-
-HeaderReactor reactor;
-[[maybe_unused]] const bool registered = [] {
-    host::Host::instance().addReactor(&reactor);
-    return true;
-}();
-
-}  // namespace

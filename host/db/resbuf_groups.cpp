@@ -5,7 +5,7 @@
 
 #include "adscodes.h"
 #include "host/db/database.h"
-#include "host/runtime/resbuf.h"
+#include "host/db/resbuf.h"
 
 namespace host::db {
 

@@ -1,22 +1,20 @@
 // Selection sets of the host interface. acedSSGet selects from the current drawing by mode:
 // "X" everything (with a filter), "A" everything on layers not frozen, "W"/"C" window and
 // crossing, "WP"/"CP" polygons, "F" fence, "L" the last entity, "P" the previous set, and a
-// pick at a point. The interactive modes take the next entity pick queued for the session
-// (one pick, as a single selection) and answer RTCAN when none is queued.
+// pick at a point. The interactive mode is answered by the editor's pick (acedSSGet itself
+// lives with the user input of the runtime).
 #include <cmath>
 
 #include "acdbads.h"
 #include "acedads.h"
 #include "acutads.h"
 #include "adscodes.h"
-#include "host/dcl/dcl.h"
 #include "host/db/api_support.h"
 #include "host/db/selection.h"
 #include "host/db/selection_filter.h"
 #include "host/db/selection_sets.h"
 #include "host/db/shapes.h"
-#include "host/runtime/host.h"
-#include "host/runtime/input.h"
+#include "host/db/sysvars.h"
 #include "host/text.h"
 
 using namespace host;
@@ -94,11 +92,12 @@ bool layerFrozen(const Database& db, uint32_t index) {
 
 // The drawing units a pick reaches: the pick box in pixels at the current view's scale.
 double pickAperture() {
-    auto& vars = Host::instance().current().sysvars();
     double box = 3, height = 297, pixels = 768;
-    if (auto* v = vars.find(L"PICKBOX")) box = v->integer;
-    if (auto* v = vars.find(L"VIEWSIZE")) height = v->real;
-    if (auto* v = vars.find(L"SCREENSIZE")) pixels = v->point[1] > 0 ? v->point[1] : pixels;
+    if (SysVars* vars = currentVariables()) {
+        if (auto* v = vars->find(L"PICKBOX")) box = v->integer;
+        if (auto* v = vars->find(L"VIEWSIZE")) height = v->real;
+        if (auto* v = vars->find(L"SCREENSIZE")) pixels = v->point[1] > 0 ? v->point[1] : pixels;
+    }
     return std::max(box, 1.0) * height / pixels;
 }
 
@@ -152,10 +151,8 @@ std::vector<uint32_t> pickAt(const Database& db, const SelectionFilter& filter, 
 
 namespace host::db {
 
-// Selection by mode into members; RTNORM, RTCAN or RTREJ for interactive modes, RTERROR
-// otherwise.
 int selectEntities(Database& db, const ACHAR* str, const void* pt1, const void* pt2,
-                   const SelectionFilter& filter, std::vector<uint32_t>& members) {
+                   const SelectionFilter& filter, std::vector<uint32_t>& members, const PickEntity& pick) {
     Mode mode = modeOf(str, pt1);
     auto geometric = [&](auto test) {
         return scan(db, filter, [&](uint32_t i) { return inModelSpace(db, i) && test(shapeOf(db, i)); });
@@ -199,13 +196,8 @@ int selectEntities(Database& db, const ACHAR* str, const void* pt1, const void* 
     case Mode::Pick: members = pickAt(db, filter, static_cast<const double*>(pt1)); break;
     case Mode::Interactive: {
         ads_name picked;
-        ads_point at;
-        if (host::dcl::rejectWhileDialogOpen(L"acedSSGet")) return RTREJ;
-        acutPrintf(L"\nSelect objects: ");
-        if (!takeEntityPick(picked, at)) {
-            acutPrintf(L"*Cancel*\n");
-            return RTCAN;
-        }
+        if (!pick) return RTCAN;
+        if (int status = pick(picked); status != RTNORM) return status;
         uint32_t index = db.indexOf(picked);
         if (index != kNone && db.record(index).kind == RecordKind::SubEntity) index = db.record(index).main;
         if (index != kNone && !db.record(index).deleted && filter.matches(db, index)) members = {index};
@@ -215,35 +207,20 @@ int selectEntities(Database& db, const ACHAR* str, const void* pt1, const void* 
     return RTNORM;
 }
 
-}  // namespace host::db
-
-extern "C" int acedSSGet(const ACHAR* str, const void* pt1, const void* pt2, const struct resbuf* filter,
-                         ads_name ss) {
-    Database* db = currentDb();
-    if (!db || !ss) {
-        setErrno(kErrNullPointer);
-        return RTERROR;
-    }
-    SelectionFilter compiled;
-    if (short err = compiled.compile(*db, filter)) {
-        setErrno(err);
-        return RTERROR;
-    }
-    std::vector<uint32_t> members;
-    int status = selectEntities(*db, str, pt1, pt2, compiled, members);
-    if (status != RTNORM) return status;
-    if (members.empty()) return RTERROR;
-    long id = db->selectionSets().create();
+int storeSelection(Database& db, const std::vector<uint32_t>& members, ads_name ss) {
+    long id = db.selectionSets().create();
     if (!id) {
         setErrno(kErrTooManySets);
         return RTERROR;
     }
-    auto* set = db->selectionSets().find(id);
+    auto* set = db.selectionSets().find(id);
     for (uint32_t m : members) set->add(m);
-    db->selectionSets().previous = members;
-    setName(*db, id, ss);
+    db.selectionSets().previous = members;
+    setName(db, id, ss);
     return RTNORM;
 }
+
+}  // namespace host::db
 
 extern "C" int acedSSFree(const ads_name sname) {
     Database* db;

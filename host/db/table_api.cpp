@@ -6,7 +6,7 @@
 #include "host/db/api_support.h"
 #include "host/db/resbuf_groups.h"
 #include "host/db/tables.h"
-#include "host/runtime/resbuf.h"
+#include "host/db/resbuf.h"
 #include "host/text.h"
 
 using namespace host;

@@ -82,7 +82,7 @@ struct DialogRecord {
     std::wstring value(std::wstring_view key) const;  // "" for a missing key
 };
 
-// Dialogs that have run in this process (the outcome of each ads_start_dialog), oldest first.
+// Dialogs that have run in this session (the outcome of each ads_start_dialog), oldest first.
 const std::vector<DialogRecord>& dialogHistory();
 void clearDialogHistory();
 // The most recent record of dialog NAME; null when it never ran.
@@ -109,12 +109,12 @@ struct LispActionCall {
 using LispActionHook = std::function<void(const LispActionCall&)>;
 void setLispActionHook(LispActionHook hook);
 
+// ads_vector_image between start_image and end_image draws into the open image tile: true
+// when one is open and the vector was recorded there (else it goes on the graphics screen).
+bool recordImageVector(short x1, short y1, short x2, short y2, short color);
+
 // Folders searched for DCL files named without an absolute path (after the current folder for
 // ads_load_dialog, after the including file's folder for @include).
 void setDclSearchPath(std::vector<std::filesystem::path> folders);
-
-// Unloads every file and ends every dialog (status DLGALLDONE), clearing list and image
-// sessions: the state of a fresh host. Tests call it between cases.
-void resetDialogs();
 
 }  // namespace host::dcl

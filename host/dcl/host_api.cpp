@@ -1,9 +1,9 @@
 // The host-side interface of the dialog runtime (dcl.h).
 #include "acutads.h"
+#include "host/db/api_support.h"
 #include "host/dcl/dcl.h"
 #include "host/dcl/paths.h"
 #include "host/dcl/runtime.h"
-#include "host/runtime/host.h"
 
 namespace host::dcl {
 
@@ -39,14 +39,11 @@ bool dialogActive() { return !Runtime::instance().running().empty(); }
 bool rejectWhileDialogOpen(std::wstring_view functionName) {
     if (!dialogActive()) return false;
     acutPrintf(L"AutoCAD rejected function %ls\n", std::wstring(functionName).c_str());
-    Host& h = Host::instance();
-    if (h.hasDocument()) h.current().sysvars().setShort(L"ERRNO", 85);
+    db::setErrno(85);
     Runtime::instance().terminateAll();
     return true;
 }
 
 void setDclSearchPath(std::vector<std::filesystem::path> folders) { setSearchPath(std::move(folders)); }
-
-void resetDialogs() { Runtime::instance().reset(); }
 
 }  // namespace host::dcl

@@ -6,7 +6,7 @@
 #include "adsdlg.h"
 #include "host/dcl/runtime.h"
 #include "host/dcl/tile_values.h"
-#include "host/runtime/screen.h"
+#include "host/dcl/dcl.h"
 
 using host::dcl::ImageOp;
 using host::dcl::Runtime;
@@ -27,15 +27,6 @@ bool record(ImageOp op) {
     return true;
 }
 
-// ads_vector_image draws into the open image tile; without one it draws on the screen.
-void installVectorHook() {
-    static bool installed = false;
-    if (installed) return;
-    host::setImageVectorHook([](short x1, short y1, short x2, short y2, short color) {
-        return record(ImageOp{ImageOp::Kind::Vector, x1, y1, x2, y2, color, {}});
-    });
-    installed = true;
-}
 
 // Width and height in pixels: character cells of a fixed size; with only one of them, the
 // other follows from aspect_ratio (width / height). Tiles without a width are as wide as
@@ -54,6 +45,10 @@ void pixelSize(const host::dcl::Tile& tile, long& width, long& height) {
 
 }  // namespace
 
+bool host::dcl::recordImageVector(short x1, short y1, short x2, short y2, short color) {
+    return record(ImageOp{ImageOp::Kind::Vector, x1, y1, x2, y2, color, {}});
+}
+
 extern "C" int ads_dimensions_tile(ads_hdlg hdlg, const ACHAR* key, short* cx, short* cy) {
     Runtime& rt = Runtime::instance();
     host::dcl::Dialog* dialog = rt.dialog(hdlg);
@@ -71,7 +66,6 @@ extern "C" int ads_start_image(ads_hdlg hdlg, const ACHAR* key) {
     host::dcl::Dialog* dialog = rt.dialog(hdlg);
     int tile = rt.findTile(dialog, key);
     if (tile < 0 || !host::dcl::isImage(dialog->tile(tile).kind())) return RTERROR;
-    installVectorHook();
     rt.image = host::dcl::ImageSession{dialog->serial(), tile};
     return RTNORM;
 }

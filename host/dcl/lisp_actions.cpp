@@ -1,12 +1,15 @@
 #include "host/dcl/lisp_actions.h"
 
+#include "host/session.h"
+
 namespace host::dcl {
 namespace {
 
-LispActionHook& hook() {
-    static LispActionHook h;
-    return h;
-}
+struct LispActions {
+    LispActionHook hook;
+};
+
+LispActionHook& hook() { return sessionPart<LispActions>().hook; }
 
 }  // namespace
 

@@ -2,16 +2,18 @@
 
 #include <system_error>
 
+#include "host/session.h"
 #include "host/text.h"
 
 namespace host::dcl {
 namespace fs = std::filesystem;
 namespace {
 
-std::vector<fs::path>& folders() {
-    static std::vector<fs::path> f;
-    return f;
-}
+struct SearchPath {
+    std::vector<fs::path> folders;
+};
+
+std::vector<fs::path>& folders() { return sessionPart<SearchPath>().folders; }
 
 bool isFile(const fs::path& p) {
     std::error_code ec;

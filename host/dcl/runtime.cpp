@@ -1,18 +1,17 @@
 #include "host/dcl/runtime.h"
 
 #include "acutads.h"
+#include "host/db/api_support.h"
+#include "host/db/sysvars.h"
 #include "host/dcl/script.h"
-#include "host/runtime/host.h"
+#include "host/session.h"
 
 namespace host::dcl {
 namespace {
 
 constexpr short kDialogActiveBit = 8;  // CMDACTIVE while a dialog is open
 
-SysVars* documentVariables() {
-    Host& h = Host::instance();
-    return h.hasDocument() ? &h.current().sysvars() : nullptr;
-}
+SysVars* documentVariables() { return db::currentVariables(); }
 
 short shortVariable(SysVars& vars, const wchar_t* name) {
     const SysVarValue* v = vars.find(name);
@@ -21,10 +20,7 @@ short shortVariable(SysVars& vars, const wchar_t* name) {
 
 }  // namespace
 
-Runtime& Runtime::instance() {
-    static Runtime r;
-    return r;
-}
+Runtime& Runtime::instance() { return sessionPart<Runtime>(); }
 
 int Runtime::addFile(std::unique_ptr<LoadedDcl> dcl) {
     int id = nextFile_++;
@@ -122,16 +118,6 @@ void Runtime::markActive(bool active) {
     if (!vars) return;
     short v = shortVariable(*vars, L"CMDACTIVE");
     vars->setShort(L"CMDACTIVE", static_cast<short>(active ? (v | kDialogActiveBit) : (v & ~kDialogActiveBit)), true);
-}
-
-void Runtime::reset() {
-    terminateAll();
-    // Dialogs still on the stack belong to callers up the stack; a reset from a callback is
-    // not supported, so the stack is empty here in practice.
-    files_.clear();
-    list.reset();
-    image.reset();
-    history_.clear();
 }
 
 }  // namespace host::dcl

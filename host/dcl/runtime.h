@@ -8,6 +8,7 @@
 
 #include "host/dcl/dialog.h"
 #include "host/dcl/loader.h"
+#include "host/session.h"
 
 namespace host::dcl {
 
@@ -53,9 +54,8 @@ public:
     std::optional<ListSession> list;
     std::optional<ImageSession> image;
 
-    void reset();
-
 private:
+    friend class host::PartStore;
     Runtime() = default;
     void discard(Dialog& dialog);
     void markActive(bool active);

@@ -3,7 +3,7 @@
 #include "acutads.h"
 #include "host/dcl/interaction.h"
 #include "host/dcl/runtime.h"
-#include "host/runtime/dialog_script.h"
+#include "host/dcl/dialog_script.h"
 
 namespace host::dcl {
 namespace {

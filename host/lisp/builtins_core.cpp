@@ -6,7 +6,7 @@
 
 #include "host/lisp/interpreter.h"
 #include "host/lisp/reader.h"
-#include "host/runtime/output.h"
+#include "host/output.h"
 #include "host/text.h"
 
 namespace host::lisp {

@@ -1,6 +1,6 @@
-// The host's headless forms: scripted dialog actions and queued picks.
+// The host's headless forms: scripted dialog actions, queued picks and typed replies.
 #include "host/lisp/interpreter.h"
-#include "host/runtime/dialog_script.h"
+#include "host/dcl/dialog_script.h"
 #include "host/runtime/input.h"
 
 namespace host::lisp {
@@ -41,6 +41,27 @@ DialogAction parseAction(const ValuePtr& form) {
     return action;
 }
 
+// nil is a bare Enter; a string is typed text; a list of two or three numbers is a point.
+TypedReply typedReply(const ValuePtr& v) {
+    TypedReply r;
+    if (isNil(v)) return r;
+    if (v->kind == Kind::Str) {
+        r.kind = TypedReply::Kind::Text;
+        r.text = v->text;
+    } else if (v->kind == Kind::Int) {
+        r.kind = TypedReply::Kind::Integer;
+        r.integer = v->integer;
+    } else if (v->kind == Kind::Real) {
+        r.kind = TypedReply::Kind::Real;
+        r.real = v->real;
+    } else if (isList(v)) {
+        r.kind = TypedReply::Kind::Point;
+        pointArg(v, r.point);
+    } else {
+        badArgument(L"typed reply", v);
+    }
+    return r;
+}
 
 }  // namespace
 
@@ -67,6 +88,13 @@ void addHeadlessBuiltins(Interpreter& in) {
         ads_point p;
         pointArg(a[0], p);
         queuePointPick(p);
+        return t();
+    });
+    in.define(L"HOST-INPUT", [](Interpreter&, const Args& a) {
+        expectCount(a, 1, a.size());
+        std::vector<TypedReply> replies;
+        for (const auto& v : a) replies.push_back(typedReply(v));
+        for (auto& r : replies) queueTypedReply(std::move(r));
         return t();
     });
 }

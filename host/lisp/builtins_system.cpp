@@ -7,7 +7,7 @@
 #include "acutads.h"
 #include "host/lisp/interpreter.h"
 #include "host/runtime/convert.h"
-#include "host/runtime/resbuf.h"
+#include "host/db/resbuf.h"
 
 namespace host::lisp {
 namespace {

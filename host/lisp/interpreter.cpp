@@ -42,6 +42,7 @@ Interpreter::Interpreter() {
     addSystemBuiltins(*this);
     addDrawingBuiltins(*this);
     addHeadlessBuiltins(*this);
+    addInputBuiltins(*this);
 }
 
 void Interpreter::define(const std::wstring& name, Builtin fn, bool special) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/lisp/value.h"
+#include "host/runtime/lisp_value.h"
 
 namespace host::lisp {
 
@@ -46,7 +46,8 @@ private:
 void addCoreBuiltins(Interpreter& in);      // control, arithmetic, lists, strings, output
 void addSystemBuiltins(Interpreter& in);     // system variables, commands, geometry, formats
 void addDrawingBuiltins(Interpreter& in);   // entities and selection sets
-void addHeadlessBuiltins(Interpreter& in);  // host-dialog, host-entsel, host-getpoint
+void addHeadlessBuiltins(Interpreter& in);  // host-dialog, host-entsel, host-getpoint, host-input
+void addInputBuiltins(Interpreter& in);     // initget and the get-functions
 
 // Argument helpers for built-ins.
 void expectCount(const std::vector<ValuePtr>& args, size_t min, size_t max);

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/lisp/value.h"
+#include "host/runtime/lisp_value.h"
 
 namespace host::lisp {
 

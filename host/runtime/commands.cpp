@@ -8,7 +8,7 @@
 #include "acutads.h"
 #include "host/dcl/dcl.h"
 #include "host/runtime/host.h"
-#include "host/runtime/output.h"
+#include "host/output.h"
 #include "host/text.h"
 
 namespace host {

@@ -4,8 +4,8 @@
 
 #include "acutads.h"
 #include "adscodes.h"
-#include "host/runtime/groupcodes.h"
-#include "host/runtime/resbuf.h"
+#include "host/db/groupcodes.h"
+#include "host/db/resbuf.h"
 
 namespace host {
 using namespace lisp;

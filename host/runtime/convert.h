@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "adsdef.h"
-#include "host/lisp/value.h"
+#include "host/runtime/lisp_value.h"
 
 namespace host {
 

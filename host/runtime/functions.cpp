@@ -3,9 +3,9 @@
 
 #include "acedads.h"
 #include "host/runtime/convert.h"
-#include "host/runtime/groupcodes.h"
+#include "host/db/groupcodes.h"
 #include "host/runtime/host.h"
-#include "host/runtime/resbuf.h"
+#include "host/db/resbuf.h"
 #include "host/text.h"
 
 using host::Host;

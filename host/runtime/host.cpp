@@ -7,17 +7,24 @@
 
 #include "acutads.h"
 #include "adscodes.h"
+#include "host/boundary.h"
+#include "host/db/api_support.h"
 #include "host/db/database.h"
+#include "host/db/header_sync.h"
+#include "host/output.h"
 #include "host/runtime/convert.h"
-#include "host/runtime/output.h"
 #include "host/text.h"
 #include "host/win/window_registry.h"
 
 namespace host {
 
+// The drawing's header variables become the document's system variables, and the database
+// writes them back when it is saved.
 Document::Document(std::wstring fileName, std::unique_ptr<db::Database> database)
     : database_(std::move(database)) {
     setFileName(std::move(fileName));
+    database_->attachSysVars(&sysvars_);
+    db::loadSysVars(*database_, sysvars_);
 }
 
 Document::~Document() = default;
@@ -32,18 +39,76 @@ void Document::setFileName(std::wstring name) {
     sysvars_.setShort(L"DWGTITLED", base.empty() ? 0 : 1, true);
 }
 
+// Makes a document current for a while (a message sent for each open document, a document
+// being closed) and gives the previous one back on every path.
+class Host::CurrentDocumentScope {
+public:
+    CurrentDocumentScope(Host& host, Document* doc) : host_(host), previous_(host.current_) {
+        host_.setCurrent(doc);
+    }
+    ~CurrentDocumentScope() { host_.setCurrent(previous_); }
+    CurrentDocumentScope(const CurrentDocumentScope&) = delete;
+    CurrentDocumentScope& operator=(const CurrentDocumentScope&) = delete;
+    // The document to give back instead (the previous one was closed meanwhile).
+    void restoreTo(Document* doc) { previous_ = doc; }
+
+private:
+    Host& host_;
+    Document* previous_;
+};
+
+// The module whose message is under way; functions it defines belong to it.
+class Host::ActiveModuleScope {
+public:
+    ActiveModuleScope(Host& host, Module* module) : host_(host), previous_(host.activeModule_) {
+        host_.activeModule_ = module;
+    }
+    ~ActiveModuleScope() { host_.activeModule_ = previous_; }
+    ActiveModuleScope(const ActiveModuleScope&) = delete;
+    ActiveModuleScope& operator=(const ActiveModuleScope&) = delete;
+
+private:
+    Host& host_;
+    Module* previous_;
+};
+
+// One entry of the invocation stack: its argument list is released and the entry removed on
+// every path.
+class Host::InvocationFrame {
+public:
+    InvocationFrame(Host& host, short code, const std::vector<lisp::ValuePtr>& args) : host_(host) {
+        Invocation inv;
+        inv.code = code;
+        inv.args = argsToResbuf(args);
+        inv.result = lisp::nil();
+        host_.invocations_.push_back(inv);
+    }
+    ~InvocationFrame() {
+        acutRelRb(host_.invocations_.back().args);
+        host_.invocations_.pop_back();
+    }
+    InvocationFrame(const InvocationFrame&) = delete;
+    InvocationFrame& operator=(const InvocationFrame&) = delete;
+    Invocation& invocation() { return host_.invocations_.back(); }
+
+private:
+    Host& host_;
+};
+
 // Wide-character streams (fwprintf, fgetws) read and write UTF-8, the host's text encoding.
 Host::Host() { std::setlocale(LC_CTYPE, "C.UTF-8"); }
 
-Host& Host::instance() {
-    static Host host;
-    return host;
-}
+Host& Host::instance() { return sessionPart<Host>(); }
 
 Document& Host::current() { return *current_; }
 
+void Host::setCurrent(Document* doc) {
+    current_ = doc;
+    db::setCurrentDb(doc ? &doc->database() : nullptr);
+}
+
 void Host::makeCurrent(Document& doc) {
-    current_ = &doc;
+    setCurrent(&doc);
     for (auto* r : std::vector(reactors_)) r->documentBecameCurrent(&doc);
 }
 
@@ -62,13 +127,15 @@ Document& Host::openDocument(std::wstring fileName) {
 }
 
 void Host::closeDocument(Document& doc) {
-    Document* previous = current_;
-    current_ = &doc;
-    for (auto& m : modules_) sendMessage(*m, AcRx::kUnloadDwgMsg, m->handle);
-    for (auto* r : std::vector(reactors_)) r->documentToBeDestroyed(&doc);
+    {
+        bool wasCurrent = current_ == &doc;
+        CurrentDocumentScope closing(*this, &doc);
+        if (wasCurrent) closing.restoreTo(nullptr);
+        for (auto& m : modules_) sendMessage(*m, AcRx::kUnloadDwgMsg, m->handle);
+        for (auto* r : std::vector(reactors_)) r->documentToBeDestroyed(&doc);
+    }
     auto it = std::find_if(documents_.begin(), documents_.end(),
                            [&](const auto& d) { return d.get() == &doc; });
-    current_ = previous == &doc ? nullptr : previous;
     if (it != documents_.end()) documents_.erase(it);
     if (!current_ && !documents_.empty()) makeCurrent(*documents_.back());
 }
@@ -78,10 +145,13 @@ void Host::closeAllDocuments() {
 }
 
 void Host::sendMessage(Module& module, AcRx::AppMsgCode msg, void* pkt) {
-    Module* previous = activeModule_;
-    activeModule_ = &module;
-    module.entry(msg, pkt);
-    activeModule_ = previous;
+    ActiveModuleScope active(*this, &module);
+    callEntry(module, msg, pkt);
+}
+
+int Host::callEntry(Module& module, AcRx::AppMsgCode msg, void* pkt) {
+    return guarded("acrxEntryPoint", static_cast<int>(AcRx::kRetError),
+                   [&] { return static_cast<int>(module.entry(msg, pkt)); });
 }
 
 Module* Host::loadModule(const std::filesystem::path& path, std::wstring& error) {
@@ -116,12 +186,10 @@ Module* Host::loadModule(const std::filesystem::path& path, std::wstring& error)
     Module& m = *modules_.back();
     setApplicationName(m.name);
     sendMessage(m, AcRx::kInitAppMsg, m.handle);
-    Document* previous = current_;
     for (auto& doc : documents_) {
-        current_ = doc.get();
+        CurrentDocumentScope each(*this, doc.get());
         sendMessage(m, AcRx::kLoadDwgMsg, m.handle);
     }
-    current_ = previous;
     return &m;
 }
 
@@ -129,12 +197,10 @@ void Host::unloadModule(Module* module) {
     auto it = std::find_if(modules_.begin(), modules_.end(),
                            [&](const auto& m) { return m.get() == module; });
     if (it == modules_.end()) return;
-    Document* previous = current_;
     for (auto& doc : documents_) {
-        current_ = doc.get();
+        CurrentDocumentScope each(*this, doc.get());
         sendMessage(*module, AcRx::kUnloadDwgMsg, module->handle);
     }
-    current_ = previous;
     sendMessage(*module, AcRx::kUnloadAppMsg, module->handle);
     // Functions the module failed to undefine can no longer be called.
     for (auto& doc : documents_)
@@ -154,29 +220,18 @@ CallResult Host::invoke(std::wstring_view name, const std::vector<lisp::ValuePtr
     auto& functions = current_->functions();
     auto it = functions.find(upperAscii(name));
     if (it == functions.end() || !it->second.module) return {};
-    CallResult result;
     RegisteredFunction fn = it->second;
-    Module* previous = activeModule_;
-    activeModule_ = fn.module;
-    result = runInvocation(fn.code, args, [&] { return fn.module->entry(AcRx::kInvkSubrMsg, fn.module->handle); });
-    activeModule_ = previous;
-    result.defined = true;
-    return result;
+    ActiveModuleScope active(*this, fn.module);
+    return runInvocation(fn.code, args, [&] { return callEntry(*fn.module, AcRx::kInvkSubrMsg, fn.module->handle); });
 }
 
 CallResult Host::runInvocation(short code, const std::vector<lisp::ValuePtr>& args,
                                const std::function<int()>& body) {
     CallResult result;
     result.defined = true;
-    Invocation inv;
-    inv.code = code;
-    inv.args = argsToResbuf(args);
-    inv.result = lisp::nil();
-    invocations_.push_back(inv);
+    InvocationFrame frame(*this, code, args);
     result.entryResult = body();
-    result.value = invocations_.back().result;
-    acutRelRb(invocations_.back().args);
-    invocations_.pop_back();
+    result.value = frame.invocation().result;
     return result;
 }
 

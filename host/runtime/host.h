@@ -1,5 +1,5 @@
 // The headless host: its documents, the modules it has loaded, and the invocation of the
-// external functions those modules register.
+// external functions those modules register. There is one Host per session (host/session.h).
 #pragma once
 
 #include <filesystem>
@@ -13,8 +13,9 @@
 
 #include "acdocman.h"
 #include "adsdef.h"
-#include "host/lisp/value.h"
-#include "host/runtime/sysvars.h"
+#include "host/db/sysvars.h"
+#include "host/runtime/lisp_value.h"
+#include "host/session.h"
 #include "rxdefs.h"
 
 namespace host {
@@ -44,12 +45,20 @@ public:
     // This document's AutoLISP symbols; keys are upper-case names.
     std::map<std::wstring, lisp::ValuePtr>& symbols() { return symbols_; }
 
+    // State of this drawing that a part of the host above the runtime keeps (the views ZOOM
+    // goes back to), made on first use and gone with the document.
+    template <class P>
+    P& data() {
+        return data_.get<P>();
+    }
+
 private:
     std::wstring fileName_;
     std::unique_ptr<db::Database> database_;
     SysVars sysvars_;
     std::map<std::wstring, RegisteredFunction> functions_;
     std::map<std::wstring, lisp::ValuePtr> symbols_;
+    PartStore data_;
 };
 
 struct Module {
@@ -69,6 +78,7 @@ struct CallResult {
 
 class Host {
 public:
+    // The Host of the active session.
     static Host& instance();
 
     // Documents. Opening makes the document current and sends each loaded module
@@ -95,6 +105,7 @@ public:
 
     // Runs BODY as the invocation of function CODE with the given arguments: what the host
     // does around a module's kInvkSubrMsg, offered to tests that call a dispatcher directly.
+    // The invocation ends on every path: an exception from BODY passes on after it.
     CallResult runInvocation(short code, const std::vector<lisp::ValuePtr>& args,
                              const std::function<int()>& body);
 
@@ -118,7 +129,16 @@ public:
     std::optional<int> takeDefunOverride(std::wstring_view name);
 
 private:
+    friend class PartStore;
     Host();
+    class CurrentDocumentScope;
+    class ActiveModuleScope;
+    class InvocationFrame;
+    // The one place the current document changes: the database layer follows it.
+    void setCurrent(Document* doc);
+    // Sends MSG to MODULE's entry point; an exception out of the module is reported there.
+    int callEntry(Module& module, AcRx::AppMsgCode msg, void* pkt);
+
     std::vector<std::unique_ptr<Document>> documents_;
     Document* current_ = nullptr;
     std::vector<std::unique_ptr<Module>> modules_;

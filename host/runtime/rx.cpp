@@ -4,6 +4,7 @@
 
 #include "acdocman.h"
 #include "host/runtime/host.h"
+#include "host/session.h"
 #include "rxregsvc.h"
 
 namespace {
@@ -35,10 +36,8 @@ private:
     mutable std::set<void*> mdiAware_;
 };
 
-DynamicLinker& linker() {
-    static DynamicLinker l;
-    return l;
-}
+// What the modules of this session told the linker.
+DynamicLinker& linker() { return host::sessionPart<DynamicLinker>(); }
 
 class SystemRegistry : public AcRxDictionary {
 public:
@@ -67,6 +66,7 @@ AcRxDynamicLinker* AcRxDynamicLinker::cast(const AcRxObject* obj) {
     return dynamic_cast<AcRxDynamicLinker*>(const_cast<AcRxObject*>(obj));
 }
 
+// The registry and the document manager hold nothing themselves: they ask the session.
 AcRxDictionary* acrxSysRegistry() {
     static SystemRegistry registry;
     return &registry;

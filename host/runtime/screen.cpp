@@ -2,30 +2,29 @@
 
 #include "acedads.h"
 #include "adsdlg.h"
+#include "host/dcl/dcl.h"
+#include "host/session.h"
 
 namespace host {
 namespace {
 
-std::vector<ScreenVector>& vectors() {
-    static std::vector<ScreenVector> v;
-    return v;
-}
+struct Screen {
+    std::vector<ScreenVector> vectors;
+};
 
-ImageVectorHook& hook() {
-    static ImageVectorHook h;
-    return h;
-}
+std::vector<ScreenVector>& vectors() { return sessionPart<Screen>().vectors; }
 
 }  // namespace
 
 const std::vector<ScreenVector>& screenVectors() { return vectors(); }
 void clearScreenVectors() { vectors().clear(); }
-void setImageVectorHook(ImageVectorHook h) { hook() = std::move(h); }
 
 }  // namespace host
 
+// Inside an open image tile the vector belongs to the dialog; elsewhere it is temporary
+// graphics on the screen.
 extern "C" int ads_vector_image(short x1, short y1, short x2, short y2, short color) {
-    if (host::hook() && host::hook()(x1, y1, x2, y2, color)) return RTNORM;
+    if (host::dcl::recordImageVector(x1, y1, x2, y2, color)) return RTNORM;
     host::vectors().push_back({x1, y1, x2, y2, color});
     return RTNORM;
 }

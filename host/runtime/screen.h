@@ -2,7 +2,6 @@
 // see them, and cleared by a redraw of the whole screen.
 #pragma once
 
-#include <functional>
 #include <vector>
 
 namespace host {
@@ -13,10 +12,5 @@ struct ScreenVector {
 
 const std::vector<ScreenVector>& screenVectors();
 void clearScreenVectors();
-
-// The dialog runtime routes image drawing into an open image tile through this hook; with no
-// hook, or when it answers false, ads_vector_image draws on the graphics screen.
-using ImageVectorHook = std::function<bool(short x1, short y1, short x2, short y2, short color)>;
-void setImageVectorHook(ImageVectorHook hook);
 
 }  // namespace host

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <mutex>
 
+#include "host/session.h"
 #include "host/text.h"
 #include "windows.h"
 
@@ -14,10 +15,7 @@ struct Store {
     std::map<std::wstring, std::map<std::wstring, std::wstring>> keys;  // upper-case names
 };
 
-Store& store() {
-    static auto* s = new Store;  // never destroyed: other threads may read it at exit
-    return *s;
-}
+Store& store() { return sessionPart<Store>(); }
 
 // Key paths compare without case, with either separator, and without a trailing one.
 std::wstring normaliseKey(std::wstring_view key) {
@@ -45,11 +43,6 @@ bool keyExists(const std::wstring& path) {
 void setRegistryValue(std::wstring_view key, std::wstring_view name, std::wstring value) {
     std::lock_guard lock(store().mutex);
     store().keys[normaliseKey(key)][upperAscii(name)] = std::move(value);
-}
-
-void clearRegistry() {
-    std::lock_guard lock(store().mutex);
-    store().keys.clear();
 }
 
 std::optional<std::wstring> registryValue(std::wstring_view key, std::wstring_view name) {

@@ -1,4 +1,5 @@
-// The registry store: string values under keys, given on the console's command line or in a file.
+// The registry store of the session: string values under keys, given on the console's command
+// line or in a file.
 #pragma once
 
 #include <map>
@@ -12,7 +13,6 @@ inline constexpr wchar_t kSuiteKey[] = L"SOFTWARE\\Morvell\\Vornex\\6.0";
 
 // A key exists once any value under it (or under a key below it) has been given.
 void setRegistryValue(std::wstring_view key, std::wstring_view name, std::wstring value);
-void clearRegistry();
 std::optional<std::wstring> registryValue(std::wstring_view key, std::wstring_view name);
 
 }  // namespace host::win

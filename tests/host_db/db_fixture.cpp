@@ -1,13 +1,11 @@
 #include "tests/host_db/db_fixture.h"
 
-#include "host/runtime/input.h"
 #include "host/text.h"
 
 namespace dbtest {
 
 void DrawingTest::SetUp() {
     capture_ = std::make_unique<host::OutputCapture>();
-    host::clearPicks();
     host::Host::instance().openDocument(L"");
 }
 

@@ -12,9 +12,10 @@
 #include "acedads.h"
 #include "acutads.h"
 #include "host/db/database.h"
+#include "host/db/resbuf.h"
+#include "host/output.h"
 #include "host/runtime/host.h"
-#include "host/runtime/output.h"
-#include "host/runtime/resbuf.h"
+#include "host/session.h"
 
 namespace dbtest {
 
@@ -40,6 +41,7 @@ protected:
     static const resbuf* find(const resbuf* rb, int code, int occurrence = 0);
 
 private:
+    host::Session session_;  // nothing left from an earlier test
     std::unique_ptr<host::OutputCapture> capture_;
 };
 

@@ -4,7 +4,7 @@
 #include <set>
 
 #include "host/runtime/input.h"
-#include "host/runtime/output.h"
+#include "host/output.h"
 #include "tests/host_db/db_fixture.h"
 
 namespace dbtest {

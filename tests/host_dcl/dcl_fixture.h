@@ -1,5 +1,5 @@
-// Shared set-up of the DCL tests: a fresh dialog runtime, the test data folder, and callbacks
-// that forward to lambdas (the interface takes plain function pointers).
+// Shared set-up of the DCL tests: a session of its own (a fresh dialog runtime), the test data
+// folder, and callbacks that forward to lambdas (the interface takes plain function pointers).
 #pragma once
 
 #include <gtest/gtest.h>
@@ -9,8 +9,9 @@
 
 #include "adsdlg.h"
 #include "host/dcl/dcl.h"
-#include "host/runtime/dialog_script.h"
-#include "host/runtime/output.h"
+#include "host/dcl/dialog_script.h"
+#include "host/output.h"
+#include "host/session.h"
 #include "host/text.h"
 
 namespace dcltest {
@@ -60,16 +61,14 @@ inline host::DialogAction select(std::wstring key, std::wstring items) {
 
 class DclTest : public ::testing::Test {
 protected:
-    void SetUp() override { clean(); }
-    void TearDown() override { clean(); }
+    void SetUp() override { clearHandlers(); }
+    void TearDown() override { clearHandlers(); }
 
-    static void clean() {
-        host::dcl::resetDialogs();
-        host::dcl::setDclSearchPath({});
-        host::dcl::setLispActionHook(nullptr);
-        host::clearDialogActions();
+    static void clearHandlers() {
         for (int i = 0; i < 4; ++i) handler(i) = nullptr;
     }
+
+    host::Session session_;
 
     // Loads a file of the data folder; fails the test when it does not load.
     int load(const std::string& relative) {

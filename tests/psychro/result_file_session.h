@@ -1,5 +1,5 @@
 // A host session for the psychrometric commands and their result files: a temporary folder as
-// the current folder (where result files go), a fresh dialog history, and helpers for
+// the current folder (where result files go), and helpers for
 // scripted dialogs and for files read and written as bytes.
 #pragma once
 
@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "host/dcl/dcl.h"
-#include "host/runtime/dialog_script.h"
+#include "host/dcl/dialog_script.h"
 #include "host/text.h"
 #include "tests/support/host_session.h"
 
@@ -29,8 +29,6 @@ class ResultFileSession : public testing_support::HostSession {
 protected:
     void SetUp() override {
         HostSession::SetUp();
-        host::dcl::resetDialogs();
-        host::dcl::clearDialogHistory();
         saved_ = fs::current_path();
         static int serial = 0;
         dir_ = fs::temp_directory_path() /

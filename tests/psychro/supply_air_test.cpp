@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "adscodes.h"
-#include "host/runtime/output.h"
+#include "host/output.h"
 #include "psychro/supply_air.h"
 
 namespace {

@@ -1,11 +1,7 @@
 #include "tests/support/host_session.h"
 
 #include "host/lisp/interpreter.h"
-#include "host/runtime/dialog_script.h"
-#include "host/runtime/input.h"
-#include "host/runtime/screen.h"
 #include "host/text.h"
-#include "host/win/registry.h"
 
 namespace testing_support {
 
@@ -14,10 +10,7 @@ std::wstring buildRoot() { return host::fromUtf8(VRN2_BUILD_ROOT); }
 
 void HostSession::SetUp() {
     capture_ = std::make_unique<host::OutputCapture>();
-    host::win::clearRegistry();
-    host::clearDialogActions();
-    host::clearPicks();
-    host::clearScreenVectors();
+    interpreter_ = std::make_unique<lisp::Interpreter>();
     host().openDocument(L"");
     doc().symbols()[L"_DRV"] = lisp::makeStr(sourceRoot());
     std::wstring error;
@@ -28,6 +21,7 @@ void HostSession::SetUp() {
 void HostSession::TearDown() {
     host().unloadAllModules();
     host().closeAllDocuments();
+    interpreter_.reset();
     capture_.reset();
 }
 
@@ -35,16 +29,9 @@ host::CallResult HostSession::call(const std::wstring& name, const std::vector<l
     return host().invoke(name, args);
 }
 
-namespace {
-host::lisp::Interpreter& interpreter() {
-    static host::lisp::Interpreter instance;
-    return instance;
-}
-}  // namespace
-
 std::wstring HostSession::eval(const std::wstring& text) {
     try {
-        return lisp::printValue(interpreter().evalText(text));
+        return lisp::printValue(interpreter_->evalText(text));
     } catch (const host::lisp::LispError& e) {
         return L"; error: " + e.message;
     }
@@ -52,7 +39,7 @@ std::wstring HostSession::eval(const std::wstring& text) {
 
 lisp::ValuePtr HostSession::evalValue(const std::wstring& text) {
     try {
-        return interpreter().evalText(text);
+        return interpreter_->evalText(text);
     } catch (const host::lisp::LispError& e) {
         ADD_FAILURE() << "AutoLISP error in the test's own script: " << std::string(e.message.begin(), e.message.end());
         return lisp::nil();

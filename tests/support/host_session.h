@@ -1,15 +1,18 @@
-// A host session for tests: a new document, the module loaded from the build, and everything
-// the module prints captured.
+// A host session for tests: a session of its own (nothing left from an earlier test), a new
+// document, the module loaded from the build, and everything the module prints captured.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
-#include "host/lisp/value.h"
+#include "host/lisp/interpreter.h"
+#include "host/output.h"
 #include "host/runtime/host.h"
-#include "host/runtime/output.h"
+#include "host/runtime/lisp_value.h"
+#include "host/session.h"
 
 namespace testing_support {
 
@@ -34,8 +37,10 @@ protected:
     const std::vector<std::wstring>& failures() const { return capture_->failures(); }
     void clearOutput() { capture_->clear(); }
 
+    host::Session session_;
     host::Module* module_ = nullptr;
     std::unique_ptr<host::OutputCapture> capture_;
+    std::unique_ptr<lisp::Interpreter> interpreter_;
 };
 
 // The installation root of the source tree, with a trailing separator.

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "adscodes.h"
-#include "host/runtime/output.h"
+#include "host/output.h"
 #include "psychro/airstate/airstate.h"
 #include "psychro/airstate/tool/command_line.h"
 #include "psychro/airstate/tool/report.h"

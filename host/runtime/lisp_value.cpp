@@ -1,4 +1,4 @@
-#include "host/lisp/value.h"
+#include "host/runtime/lisp_value.h"
 
 #include <cmath>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "host/runtime/sysvars.h"
+#include "host/db/sysvars.h"
 
 #include "adscodes.h"
 #include "host/text.h"

@@ -1,32 +1,24 @@
-#include "host/runtime/output.h"
+#include "host/output.h"
 
 #include <cstdarg>
 #include <cstdio>
 #include <cwchar>
 #include <mutex>
 
-#include "acdbads.h"
-#include "acedads.h"
-#include "acutads.h"
+#include "host/session.h"
 #include "host/text.h"
 
 namespace host {
 namespace {
 
-std::mutex& sinkMutex() {
-    static std::mutex m;
-    return m;
-}
+// Where this session's output goes. Module threads may print, so the sink is locked.
+struct OutputState {
+    std::mutex mutex;
+    OutputSink sink = defaultOutputSink();
+    std::wstring applicationName = L"Vrn2";
+};
 
-OutputSink& currentSink() {
-    static OutputSink sink = defaultOutputSink();
-    return sink;
-}
-
-std::wstring& appName() {
-    static std::wstring name = L"Vrn2";
-    return name;
-}
+OutputState& state() { return sessionPart<OutputState>(); }
 
 // The platform's wide printf reads %s and %c as wide arguments; glibc reads them as narrow.
 // Rewrite the bare forms to their explicit wide spelling before formatting.
@@ -80,23 +72,34 @@ OutputSink defaultOutputSink() {
 }
 
 OutputSink setOutputSink(OutputSink sink) {
-    std::lock_guard lock(sinkMutex());
-    OutputSink previous = std::move(currentSink());
-    currentSink() = std::move(sink);
+    OutputState& s = state();
+    std::lock_guard lock(s.mutex);
+    OutputSink previous = std::move(s.sink);
+    s.sink = std::move(sink);
     return previous;
 }
 
 void emit(OutputKind kind, std::wstring_view text) {
     OutputSink sink;
     {
-        std::lock_guard lock(sinkMutex());
-        sink = currentSink();
+        OutputState& s = state();
+        std::lock_guard lock(s.mutex);
+        sink = s.sink;
     }
     if (sink) sink(kind, text);
 }
 
-void setApplicationName(std::wstring name) { appName() = std::move(name); }
-const std::wstring& applicationName() { return appName(); }
+void setApplicationName(std::wstring name) {
+    OutputState& s = state();
+    std::lock_guard lock(s.mutex);
+    s.applicationName = std::move(name);
+}
+
+std::wstring applicationName() {
+    OutputState& s = state();
+    std::lock_guard lock(s.mutex);
+    return s.applicationName;
+}
 
 OutputCapture::OutputCapture() {
     previous_ = setOutputSink([this](OutputKind kind, std::wstring_view text) {
@@ -134,20 +137,3 @@ std::wstring formatWide(const wchar_t* format, va_list args) {
 }
 
 }  // namespace host
-
-extern "C" int acutPrintf(const ACHAR* format, ...) {
-    if (!format) return RTERROR;
-    va_list args;
-    va_start(args, format);
-    std::wstring text = host::formatWide(format, args);
-    va_end(args);
-    host::emit(host::OutputKind::CommandLine, text);
-    return RTNORM;
-}
-
-extern "C" int acedAlert(const ACHAR* str) {
-    host::emit(host::OutputKind::Alert, str ? str : L"");
-    return RTNORM;
-}
-
-extern "C" void acdbFail(const ACHAR* str) { host::emit(host::OutputKind::Failure, str ? str : L""); }

@@ -1,11 +1,11 @@
-#include "host/runtime/resbuf.h"
+#include "host/db/resbuf.h"
 
 #include <cstdarg>
 #include <cstdlib>
 #include <cstring>
 
 #include "acutads.h"
-#include "host/runtime/groupcodes.h"
+#include "host/db/groupcodes.h"
 
 namespace host {
 

@@ -1,14 +1,19 @@
-#include "host/runtime/dialog_script.h"
+#include "host/dcl/dialog_script.h"
 
 #include <deque>
 #include <map>
 
+#include "host/session.h"
+
 namespace host {
 namespace {
 
+struct DialogScript {
+    std::map<std::wstring, std::deque<std::vector<DialogAction>>> queues;
+};
+
 std::map<std::wstring, std::deque<std::vector<DialogAction>>>& queues() {
-    static std::map<std::wstring, std::deque<std::vector<DialogAction>>> q;
-    return q;
+    return sessionPart<DialogScript>().queues;
 }
 
 }  // namespace
@@ -25,8 +30,6 @@ std::optional<std::vector<DialogAction>> takeDialogActions(const std::wstring& d
     if (it->second.empty()) queues().erase(it);
     return batch;
 }
-
-void clearDialogActions() { queues().clear(); }
 
 std::vector<std::wstring> pendingDialogNames() {
     std::vector<std::wstring> names;

@@ -23,7 +23,7 @@ OutputSink defaultOutputSink();
 
 // The application name used in failure lines ("Vrn2" once the module is loaded).
 void setApplicationName(std::wstring name);
-const std::wstring& applicationName();
+std::wstring applicationName();
 
 // Collects everything emitted while it lives; restores the previous sink when destroyed.
 class OutputCapture {

@@ -19,7 +19,6 @@ struct DialogAction {
 void queueDialogActions(const std::wstring& dialogName, std::vector<DialogAction> actions);
 // The next batch for NAME; nullopt when nothing is queued (the dialog is then cancelled).
 std::optional<std::vector<DialogAction>> takeDialogActions(const std::wstring& dialogName);
-void clearDialogActions();
 // Names with batches not used yet (the console warns about them at the end of a run).
 std::vector<std::wstring> pendingDialogNames();
 

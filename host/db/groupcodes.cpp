@@ -1,4 +1,4 @@
-#include "host/runtime/groupcodes.h"
+#include "host/db/groupcodes.h"
 
 #include "adscodes.h"
 

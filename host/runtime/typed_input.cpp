@@ -1,0 +1,399 @@
+// Typed input: acedInitGet and the get-functions, answered from the session's queue of typed
+// replies. A request prints its prompt and takes the next reply. A bare Enter answers RTNONE
+// unless acedInitGet forbade it (RSG_NONULL); a reply of the requested kind answers RTNORM
+// when it passes the RSG_NOZERO and RSG_NONEG checks the function honours; a text that is none
+// of these is looked up in the keyword list (RTKWORD, the keyword for acedGetInput) or taken
+// as arbitrary input under RSG_OTHER. Any other reply prints the editor's message and prompts
+// again with the next reply. With nothing queued the request is cancelled: RTCAN.
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <cwctype>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "acdbads.h"
+#include "acedads.h"
+#include "acutads.h"
+#include "host/boundary.h"
+#include "host/db/api_support.h"
+#include "host/db/sysvars.h"
+#include "host/dcl/dcl.h"
+#include "host/runtime/input_state.h"
+
+namespace host {
+namespace {
+
+constexpr size_t kStringLimit = 132;   // characters acedGetString gives back
+constexpr size_t kKeywordLimit = 131;  // characters acedGetKword and acedGetInput give back
+constexpr double kTwoPi = 6.283185307179586;
+
+constexpr const wchar_t* kRequiresNumber = L"Requires numeric value.";
+constexpr const wchar_t* kRequiresInteger = L"Requires an integer value.";
+constexpr const wchar_t* kRequiresDistance = L"Requires numeric distance or second point.";
+constexpr const wchar_t* kRequiresAngle = L"Requires valid numeric angle or second point.";
+constexpr const wchar_t* kRequiresPoint = L"Invalid point.";
+constexpr const wchar_t* kRequiresKeyword = L"Invalid option keyword.";
+
+// How a reply fares with the function that asked.
+struct Verdict {
+    enum class Kind { Accepted, Rejected, OtherKind } kind = Kind::OtherKind;
+    std::wstring message;  // Rejected: why
+};
+
+Verdict accepted() { return {Verdict::Kind::Accepted, {}}; }
+Verdict rejected(std::wstring message) { return {Verdict::Kind::Rejected, std::move(message)}; }
+Verdict otherKind() { return {}; }
+
+// ---- Reading replies --------------------------------------------------------------------
+
+std::wstring_view trimmed(std::wstring_view s) {
+    while (!s.empty() && std::iswspace(s.front())) s.remove_prefix(1);
+    while (!s.empty() && std::iswspace(s.back())) s.remove_suffix(1);
+    return s;
+}
+
+// A decimal number as typed: sign, digits with one point, an exponent; nothing else.
+std::optional<double> parseReal(std::wstring_view text) {
+    text = trimmed(text);
+    std::string narrow;
+    for (wchar_t c : text) {
+        if (!(std::iswdigit(c) || c == L'.' || c == L'+' || c == L'-' || c == L'e' || c == L'E')) return std::nullopt;
+        narrow += static_cast<char>(c);
+    }
+    if (!narrow.empty() && narrow.front() == '+') narrow.erase(0, 1);
+    double v = 0;
+    auto [end, ec] = std::from_chars(narrow.data(), narrow.data() + narrow.size(), v);
+    if (narrow.empty() || ec != std::errc() || end != narrow.data() + narrow.size()) return std::nullopt;
+    return v;
+}
+
+std::optional<long long> parseInteger(std::wstring_view text) {
+    text = trimmed(text);
+    bool negative = !text.empty() && text.front() == L'-';
+    if (!text.empty() && (text.front() == L'-' || text.front() == L'+')) text.remove_prefix(1);
+    if (text.empty() || text.size() > 12) return std::nullopt;
+    long long v = 0;
+    for (wchar_t c : text) {
+        if (!std::iswdigit(c)) return std::nullopt;
+        v = v * 10 + (c - L'0');
+    }
+    return negative ? -v : v;
+}
+
+std::optional<double> numberOf(const TypedReply& r) {
+    switch (r.kind) {
+    case TypedReply::Kind::Integer: return static_cast<double>(r.integer);
+    case TypedReply::Kind::Real: return r.real;
+    case TypedReply::Kind::Text: return parseReal(r.text);
+    default: return std::nullopt;
+    }
+}
+
+// A point reply, or a text "X,Y" or "X,Y,Z" (a 2D point lies at z = 0).
+std::optional<std::array<double, 3>> pointOf(const TypedReply& r) {
+    if (r.kind == TypedReply::Kind::Point) return std::array<double, 3>{r.point[0], r.point[1], r.point[2]};
+    if (r.kind != TypedReply::Kind::Text) return std::nullopt;
+    std::array<double, 3> p{0, 0, 0};
+    std::wstring_view rest = r.text;
+    for (int i = 0; i < 3; ++i) {
+        size_t comma = rest.find(L',');
+        auto v = parseReal(rest.substr(0, comma));
+        if (!v) return std::nullopt;
+        p[i] = *v;
+        if (comma == std::wstring_view::npos) return i >= 1 ? std::optional(p) : std::nullopt;
+        rest.remove_prefix(comma + 1);
+    }
+    return std::nullopt;
+}
+
+std::wstring shortest(double v) {
+    char buffer[64];
+    auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, v);
+    return ec == std::errc() ? std::wstring(buffer, end) : std::wstring();
+}
+
+// The reply as the user would have typed it.
+std::wstring textOf(const TypedReply& r) {
+    switch (r.kind) {
+    case TypedReply::Kind::Text: return r.text;
+    case TypedReply::Kind::Integer: return std::to_wstring(r.integer);
+    case TypedReply::Kind::Real: return shortest(r.real);
+    case TypedReply::Kind::Point: return shortest(r.point[0]) + L"," + shortest(r.point[1]) + L"," + shortest(r.point[2]);
+    case TypedReply::Kind::Enter: break;
+    }
+    return L"";
+}
+
+void copyLimited(const std::wstring& text, size_t limit, ACHAR* out) {
+    size_t n = std::min(text.size(), limit);
+    text.copy(out, n);
+    out[n] = L'\0';
+}
+
+// ---- Checks of acedInitGet ---------------------------------------------------------------
+
+std::optional<std::wstring> rangeProblem(double v, int flags) {
+    bool noZero = (flags & RSG_NOZERO) != 0, noNegative = (flags & RSG_NONEG) != 0;
+    if (!((noZero && v == 0.0) || (noNegative && v < 0.0))) return std::nullopt;
+    if (noZero && noNegative) return L"Value must be positive and nonzero.";
+    return noZero ? L"Value must be nonzero." : L"Value must be positive.";
+}
+
+short variable(const wchar_t* name, short fallback) {
+    SysVars* vars = db::currentVariables();
+    const SysVarValue* v = vars ? vars->find(name) : nullptr;
+    return v ? v->integer : fallback;
+}
+
+double realVariable(const wchar_t* name) {
+    SysVars* vars = db::currentVariables();
+    const SysVarValue* v = vars ? vars->find(name) : nullptr;
+    return v ? v->real : 0.0;
+}
+
+double normalised(double a) {
+    a = std::fmod(a, kTwoPi);
+    return a < 0.0 ? a + kTwoPi : a;
+}
+
+// ---- The request loop --------------------------------------------------------------------
+
+std::optional<TypedReply> nextReply() {
+    auto& q = inputState().replies;
+    if (q.empty()) return std::nullopt;
+    TypedReply r = std::move(q.front());
+    q.pop_front();
+    return r;
+}
+
+void printPrompt(const ACHAR* prompt, bool again) {
+    if (!prompt) return;
+    if (again && prompt[0] != L'\n') acutPrintf(L"\n");
+    acutPrintf(L"%ls", prompt);
+}
+
+struct Asking {
+    const wchar_t* function;   // for the refusal while a dialog is open
+    const ACHAR* prompt;
+    int honoured;              // the acedInitGet bits this function heeds
+    const wchar_t* wrongKind;  // the message for a reply of another kind
+};
+
+// Runs one request; READ(reply, flags) judges every reply but a bare Enter.
+template <class Read>
+int ask(const Asking& a, Read read) {
+    if (dcl::rejectWhileDialogOpen(a.function)) return RTREJ;
+    InputControl control = takeInputControl();
+    int flags = control.flags & a.honoured;
+    KeywordList keywords(control.keywords);
+    for (bool again = false;; again = true) {
+        printPrompt(a.prompt, again);
+        std::optional<TypedReply> reply = nextReply();
+        if (!reply) {
+            acutPrintf(L"*Cancel*\n");
+            return RTCAN;
+        }
+        std::wstring problem = a.wrongKind;
+        if (reply->kind == TypedReply::Kind::Enter) {
+            if (!(flags & RSG_NONULL)) return RTNONE;
+        } else {
+            Verdict v = read(*reply, control.flags & (a.honoured | RSG_OTHER));
+            if (v.kind == Verdict::Kind::Accepted) return RTNORM;
+            if (v.kind == Verdict::Kind::Rejected) {
+                problem = v.message;
+            } else if (auto keyword = keywords.match(trimmed(textOf(*reply)))) {
+                inputState().lastKeyword = *keyword;
+                return RTKWORD;
+            } else if ((control.flags & RSG_OTHER) && reply->kind == TypedReply::Kind::Text) {
+                inputState().lastKeyword = reply->text;
+                return RTKWORD;
+            }
+        }
+        acutPrintf(L"\n%ls", problem.c_str());
+    }
+}
+
+// The second point of a distance or angle shown by two points.
+std::optional<std::array<double, 3>> secondPoint() {
+    acutPrintf(L"\nSpecify second point: ");
+    std::optional<TypedReply> reply = nextReply();
+    return reply ? pointOf(*reply) : std::nullopt;
+}
+
+// Degrees, grads or radians as AUNITS says, counter-clockwise unless ANGDIR says otherwise.
+double typedAngle(double value) {
+    short units = variable(L"AUNITS", 0);
+    double radians = units == 3 ? value : value * (units == 2 ? kTwoPi / 400.0 : kTwoPi / 360.0);
+    if (variable(L"ANGDIR", 0) == 1) radians = -radians;
+    return normalised(radians);
+}
+
+}  // namespace
+}  // namespace host
+
+using host::TypedReply;
+using host::Verdict;
+
+extern "C" int acedInitGet(int val, const ACHAR* kwl) {
+    return host::guarded(__func__, RTERROR, [&] {
+        host::inputState().next = host::InputControl{val, kwl ? kwl : L""};
+        return RTNORM;
+    });
+}
+
+extern "C" int acedGetInput(ACHAR* str) {
+    return host::guarded(__func__, RTERROR, [&] {
+        const auto& keyword = host::inputState().lastKeyword;
+        if (!str || !keyword) return RTERROR;
+        host::copyLimited(*keyword, host::kKeywordLimit, str);
+        return RTNORM;
+    });
+}
+
+extern "C" int acedGetReal(const ACHAR* prompt, ads_real* result) {
+    return host::guarded(__func__, RTERROR, [&] {
+        if (!result) return RTERROR;
+        host::Asking a{L"acedGetReal", prompt, RSG_NONULL | RSG_NOZERO | RSG_NONEG, host::kRequiresNumber};
+        return host::ask(a, [&](const TypedReply& r, int flags) {
+            auto v = host::numberOf(r);
+            if (!v) return host::otherKind();
+            if (auto problem = host::rangeProblem(*v, flags)) return host::rejected(*problem);
+            *result = *v;
+            return host::accepted();
+        });
+    });
+}
+
+extern "C" int acedGetInt(const ACHAR* prompt, int* result) {
+    return host::guarded(__func__, RTERROR, [&] {
+        if (!result) return RTERROR;
+        host::Asking a{L"acedGetInt", prompt, RSG_NONULL | RSG_NOZERO | RSG_NONEG, host::kRequiresInteger};
+        return host::ask(a, [&](const TypedReply& r, int flags) {
+            std::optional<long long> v;
+            if (r.kind == TypedReply::Kind::Integer) v = r.integer;
+            if (r.kind == TypedReply::Kind::Text) v = host::parseInteger(r.text);
+            if (!v) return host::otherKind();
+            // The editor's integers are 16-bit.
+            if (*v < -32768 || *v > 32767) return host::rejected(L"Requires an integer between -32768 and 32767.");
+            if (auto problem = host::rangeProblem(static_cast<double>(*v), flags)) return host::rejected(*problem);
+            *result = static_cast<int>(*v);
+            return host::accepted();
+        });
+    });
+}
+
+extern "C" int acedGetDist(const ads_point pt, const ACHAR* prompt, ads_real* result) {
+    return host::guarded(__func__, RTERROR, [&] {
+        if (!result) return RTERROR;
+        host::Asking a{L"acedGetDist", prompt, RSG_NONULL | RSG_NOZERO | RSG_NONEG | RSG_2D, host::kRequiresDistance};
+        return host::ask(a, [&](const TypedReply& r, int flags) {
+            std::optional<double> v;
+            if (r.kind == TypedReply::Kind::Text) {
+                ads_real typed;
+                if (acdbDisToF(r.text.c_str(), -1, &typed) == RTNORM) v = typed;
+            } else {
+                v = host::numberOf(r);
+            }
+            if (!v) {
+                auto p = host::pointOf(r);
+                if (!p) return host::otherKind();
+                std::optional<std::array<double, 3>> from;
+                if (pt) from = std::array<double, 3>{pt[0], pt[1], pt[2]};
+                else from = std::exchange(p, host::secondPoint());
+                if (!p) return host::rejected(host::kRequiresDistance);
+                double dz = flags & RSG_2D ? 0.0 : (*p)[2] - (*from)[2];
+                v = std::hypot((*p)[0] - (*from)[0], (*p)[1] - (*from)[1], dz);
+            }
+            if (auto problem = host::rangeProblem(*v, flags)) return host::rejected(*problem);
+            *result = *v;
+            return host::accepted();
+        });
+    });
+}
+
+extern "C" int acedGetAngle(const ads_point pt, const ACHAR* prompt, ads_real* result) {
+    return host::guarded(__func__, RTERROR, [&] {
+        if (!result) return RTERROR;
+        host::Asking a{L"acedGetAngle", prompt, RSG_NONULL | RSG_NOZERO, host::kRequiresAngle};
+        return host::ask(a, [&](const TypedReply& r, int flags) {
+            if (auto v = host::numberOf(r)) {
+                if (auto problem = host::rangeProblem(*v, flags)) return host::rejected(*problem);
+                *result = host::typedAngle(*v);
+                return host::accepted();
+            }
+            auto p = host::pointOf(r);
+            if (!p) return host::otherKind();
+            std::optional<std::array<double, 3>> from;
+            if (pt) from = std::array<double, 3>{pt[0], pt[1], pt[2]};
+            else from = std::exchange(p, host::secondPoint());
+            if (!p) return host::rejected(host::kRequiresAngle);
+            // Points show the angle itself; it is measured from ANGBASE.
+            double direction = std::atan2((*p)[1] - (*from)[1], (*p)[0] - (*from)[0]);
+            *result = host::normalised(direction - host::realVariable(L"ANGBASE"));
+            return host::accepted();
+        });
+    });
+}
+
+extern "C" int acedGetCorner(const ads_point pt, const ACHAR* prompt, ads_point result) {
+    return host::guarded(__func__, RTERROR, [&] {
+        if (!pt || !result) return RTERROR;
+        host::Asking a{L"acedGetCorner", prompt, RSG_NONULL, host::kRequiresPoint};
+        return host::ask(a, [&](const TypedReply& r, int) {
+            auto p = host::pointOf(r);
+            if (!p) return host::otherKind();
+            std::memcpy(result, p->data(), sizeof(ads_point));
+            return host::accepted();
+        });
+    });
+}
+
+extern "C" int acedGetKword(const ACHAR* prompt, ACHAR* result) {
+    return host::guarded(__func__, RTERROR, [&] {
+        if (!result) return RTERROR;
+        result[0] = L'\0';
+        std::wstring keywords = host::inputState().next.keywords;
+        host::KeywordList list(keywords);
+        host::Asking a{L"acedGetKword", prompt, RSG_NONULL, host::kRequiresKeyword};
+        int status = host::ask(a, [&](const TypedReply& r, int flags) {
+            std::wstring text(host::trimmed(host::textOf(r)));
+            std::optional<std::wstring> keyword = list.match(text);
+            if (!keyword && (flags & RSG_OTHER)) keyword = text;
+            if (!keyword) return host::rejected(host::kRequiresKeyword);
+            host::copyLimited(*keyword, host::kKeywordLimit, result);
+            host::inputState().lastKeyword = *keyword;
+            return host::accepted();
+        });
+        return status;
+    });
+}
+
+// A reply longer than the 132 characters the result holds is cut and answers RTINPUTTRUNCATED.
+extern "C" int acedGetString(int cronly, const ACHAR* prompt, ACHAR* result) {
+    return host::guarded(__func__, RTERROR, [&] {
+        if (!result) return RTERROR;
+        result[0] = L'\0';
+        if (host::dcl::rejectWhileDialogOpen(L"acedGetString")) return RTREJ;
+        host::takeInputControl();  // acedGetString heeds neither bits nor keywords
+        host::printPrompt(prompt, false);
+        std::optional<TypedReply> reply = host::nextReply();
+        if (!reply) {
+            acutPrintf(L"*Cancel*\n");
+            return RTCAN;
+        }
+        std::wstring text = host::textOf(*reply);
+        // Without cronly a space ends the input as Enter does.
+        if (!cronly) text = text.substr(0, text.find(L' '));
+        host::copyLimited(text, host::kStringLimit, result);
+        return text.size() > host::kStringLimit ? RTINPUTTRUNCATED : RTNORM;
+    });
+}
+
+namespace host {
+
+void queueTypedReply(TypedReply reply) { inputState().replies.push_back(std::move(reply)); }
+size_t pendingTypedReplies() { return inputState().replies.size(); }
+
+}  // namespace host
