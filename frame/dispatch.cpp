@@ -1,6 +1,7 @@
 #include "frame/dispatch.h"
 
 #include "acedads.h"
+#include "frame/boundary.h"
 #include "frame/function_table.h"
 
 namespace vrn2 {
@@ -26,7 +27,11 @@ int dispatchInvocation() {
     // Code 63 passes the bound but has no slot in the table: nothing to call.
     Handler handler = code <= kFunctionCount ? kFunctionTable[code].handler : nullptr;
     if (!handler) return RTERROR;
-    return handler() == RTNORM ? RSRSLT : RSERR;
+    return runHandler(kFunctionTable[code].name, handler);
+}
+
+int runHandler(const ACHAR* name, Handler handler) {
+    return guarded(name, RSERR, [&] { return handler() == RTNORM ? RSRSLT : RSERR; });
 }
 
 }  // namespace vrn2

@@ -1,6 +1,8 @@
 // Registration of the function table in a drawing's AutoLISP and dispatch of its calls.
 #pragma once
 
+#include "AdAChar.h"
+
 namespace vrn2 {
 
 // Defines codes 1 to 62 in order; stops at the first acedDefun that answers 0.
@@ -10,5 +12,8 @@ int registerFunctions();
 void unregisterFunctions();
 // Runs the handler of the invoked function: RSRSLT when it answered RTNORM, RSERR otherwise.
 int dispatchInvocation();
+// Runs HANDLER as the function NAME: RSRSLT when it answered RTNORM, RSERR otherwise, and
+// RSERR with the error shown when an exception left it.
+int runHandler(const ACHAR* name, int (*handler)());
 
 }  // namespace vrn2

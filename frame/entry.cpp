@@ -2,11 +2,13 @@
 #include <memory>
 
 #include "acedads.h"
+#include "frame/boundary.h"
 #include "frame/dispatch.h"
 #include "frame/doc_data.h"
 #include "frame/module_state.h"
 #include "rxdefs.h"
 #include "rxregsvc.h"
+#include "psychro/airstate/alert.h"
 #include "windows.h"
 
 namespace vrn2 {
@@ -30,6 +32,8 @@ void initApplication(void* appId) {
     linker->unlockApplication(appId);
     linker->registerAppMDIAware(appId);
     docDataManager();
+    // The humid-air library's alert is the editor's alert box.
+    airstate::SetAlertSink([](const wchar_t* text) { acedAlert(text); });
 }
 
 void unloadApplication() {
@@ -39,21 +43,24 @@ void unloadApplication() {
     }
     // The library is about to be unmapped: the reactor must leave the document manager now.
     g_docDataManager.reset();
+    airstate::SetAlertSink(nullptr);
 }
 
 }  // namespace
 }  // namespace vrn2
 
 extern "C" ACRX_EXPORT AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode msg, void* pkt) {
-    switch (msg) {
-    case AcRx::kInitAppMsg: vrn2::initApplication(pkt); break;
-    case AcRx::kUnloadAppMsg: vrn2::unloadApplication(); break;
-    case AcRx::kLoadDwgMsg: vrn2::registerFunctions(); break;
-    case AcRx::kUnloadDwgMsg: vrn2::unregisterFunctions(); break;
-    case AcRx::kInvkSubrMsg: vrn2::dispatchInvocation(); break;
-    default: break;
-    }
-    return AcRx::kRetOK;
+    return vrn2::guarded(L"acrxEntryPoint", AcRx::kRetError, [&] {
+        switch (msg) {
+        case AcRx::kInitAppMsg: vrn2::initApplication(pkt); break;
+        case AcRx::kUnloadAppMsg: vrn2::unloadApplication(); break;
+        case AcRx::kLoadDwgMsg: vrn2::registerFunctions(); break;
+        case AcRx::kUnloadDwgMsg: vrn2::unregisterFunctions(); break;
+        case AcRx::kInvkSubrMsg: vrn2::dispatchInvocation(); break;
+        default: break;
+        }
+        return AcRx::kRetOK;
+    });
 }
 
 // What the platform's link library supplies to every module: the API version it was built for.

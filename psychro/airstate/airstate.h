@@ -9,7 +9,8 @@
 // The relations are the program's simplified engineering ones with fixed constants; they are
 // deliberately not replaced by more exact psychrometrics. Every solver writes its outputs even
 // when the state turns out impossible, and reports that through its status (RTNORM/RTERROR).
-// The only host call is the alert of DewPointFromPressure for a pressure beyond -60..200 °C.
+// The library calls no host function: its one alert, of DewPointFromPressure for a pressure
+// beyond -60..200 °C, goes to the sink its caller sets (psychro/airstate/alert.h).
 #pragma once
 
 #include <limits>
@@ -59,8 +60,8 @@ double EnthalpyAtHumidityWater(double T_K, double P_Pa, double fy_percent);
 // What DewPointFromPressure returns, and the solvers store, for a temperature out of range.
 inline constexpr double kTemperatureOutOfRange_C = -1000.0;
 
-// Temperature, °C, at which the saturation pressure equals p_Pa. Outside -60..200 °C it shows
-// the alert "求得温度范围不对." once and returns kTemperatureOutOfRange_C.
+// Temperature, °C, at which the saturation pressure equals p_Pa. Outside -60..200 °C it raises
+// the alert "求得温度范围不对." once (airstate::Alert) and returns kTemperatureOutOfRange_C.
 double DewPointFromPressure(double p_Pa);
 
 // Wet-bulb temperature, °C, of air at t_C with vapour pressure pq_Pa under pressure P_Pa.

@@ -4,8 +4,8 @@
 
 #include <cmath>
 
-#include "acedads.h"
 #include "psychro/airstate/airstate.h"
+#include "psychro/airstate/alert.h"
 #include "psychro/airstate/bands.h"
 #include "psychro/airstate/saturation_terms.h"
 
@@ -65,7 +65,7 @@ double DewPointFromPressure(double p_Pa) {
                 airstate::StartOf(kTemperatureBands[k]));
         }
     }
-    acedAlert(L"求得温度范围不对.");
+    airstate::Alert(L"求得温度范围不对.");
     return kTemperatureOutOfRange_C;
 }
 

@@ -12,7 +12,7 @@ using airstate_test::kOutOfRangeAlert;
 using airstate_test::kRootAbs_C;
 
 TEST(DewPointFromPressure, MatchesBisectionOnBothCurves) {
-    host::OutputCapture capture;
+    airstate::AlertCapture capture;
     EXPECT_NEAR(DewPointFromPressure(1000.0), 6.8172002749139796, kRootAbs_C);
     EXPECT_NEAR(DewPointFromPressure(100.0), -20.333871321485331, kRootAbs_C);
     EXPECT_NEAR(DewPointFromPressure(20000.0), 59.788729943846351, kRootAbs_C);
@@ -22,14 +22,14 @@ TEST(DewPointFromPressure, MatchesBisectionOnBothCurves) {
 TEST(DewPointFromPressure, ZeroCelsiusBandStartsOnTheIceCurve) {
     // Between the ice curve (611.15 Pa) and the water curve (617.56 Pa) at 0 °C the lowest
     // water band holds, and the water curve's root lies a little below 0 °C.
-    host::OutputCapture capture;
+    airstate::AlertCapture capture;
     EXPECT_NEAR(DewPointFromPressure(611.18), -0.1428959877338709, kRootAbs_C);
     EXPECT_NEAR(DewPointFromPressure(609.0), -0.042860778336760439, kRootAbs_C);
     EXPECT_TRUE(capture.alerts().empty());
 }
 
 TEST(DewPointFromPressure, TopOfTheRangeIsInside) {
-    host::OutputCapture capture;
+    airstate::AlertCapture capture;
     EXPECT_NEAR(DewPointFromPressure(SaturationPressureWater(473.15)), 200.0, 1e-7);
     EXPECT_NEAR(DewPointFromPressure(SaturationPressureIce(213.15)), -60.0, 1e-7);
     EXPECT_TRUE(capture.alerts().empty());
@@ -39,7 +39,7 @@ TEST(DewPointFromPressure, OutOfRangeAlertsOnceAndReturnsSentinel) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     // Below -60 °C (1.08 Pa), above 200 °C (1.58 MPa), and pressures with no logarithm.
     for (const double p : {0.5, 2.0e6, 0.0, -5.0, nan}) {
-        host::OutputCapture capture;
+        airstate::AlertCapture capture;
         EXPECT_EQ(DewPointFromPressure(p), -1000.0) << "p = " << p;
         ASSERT_EQ(capture.alerts().size(), 1u) << "p = " << p;
         EXPECT_EQ(capture.alerts()[0], kOutOfRangeAlert);
@@ -47,7 +47,7 @@ TEST(DewPointFromPressure, OutOfRangeAlertsOnceAndReturnsSentinel) {
 }
 
 TEST(WetBulbTemperature, MatchesBisectionOfThePsychrometerEquation) {
-    host::OutputCapture capture;
+    airstate::AlertCapture capture;
     EXPECT_NEAR(WetBulbTemperature(30.0, 1500.0, 101325.0), 19.102465610124049, kRootAbs_C);
     EXPECT_NEAR(WetBulbTemperature(-10.0, 150.0, 101325.0), -11.22738282498296, kRootAbs_C);
     EXPECT_NEAR(WetBulbTemperature(40.0, 2000.0, 85000.0), 23.526229153213775, kRootAbs_C);
@@ -55,7 +55,7 @@ TEST(WetBulbTemperature, MatchesBisectionOfThePsychrometerEquation) {
 }
 
 TEST(WetBulbTemperature, NoBandGivesExactlyZeroWithoutAlert) {
-    host::OutputCapture capture;
+    airstate::AlertCapture capture;
     const double nan = std::numeric_limits<double>::quiet_NaN();
     // Target between the two curves at 0 °C (611.15 .. 617.56 Pa), above the top band's
     // 1.597 MPa, and NaN.

@@ -61,7 +61,7 @@ TEST(PublishedSaturatedMoisture, WithinOnePercent) {
         AirState s = Record(101.325);
         s.t = p.t_C;
         s.fy = 100.0;
-        host::OutputCapture capture;
+        airstate::AlertCapture capture;
         StateFromTempHumidity(s);
         EXPECT_NEAR(RelativeDeviation(s.d / 1000.0, p.value), 0.0, 0.01) << "t=" << p.t_C;
     }

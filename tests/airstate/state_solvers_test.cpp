@@ -72,7 +72,7 @@ TEST(StateFromTempMoisture, OverSaturatedFailsWithAllFieldsWritten) {
 }
 
 TEST(StateValidation, EachImpossibleStateFails) {
-    host::OutputCapture capture;  // the negative moisture has no dew point
+    airstate::AlertCapture capture;  // the negative moisture has no dew point
     AirState humid = Record(101.325);  // fy over 100 %
     humid.t = 25.0;
     humid.fy = 100.5;
@@ -107,7 +107,7 @@ TEST(StateFromEnthalpyMoisture, UndefinedTemperatureKeepsPreviousSaturationPress
     s.pb = 777.0;
     s.i = std::numeric_limits<double>::quiet_NaN();
     s.d = 8.0;
-    host::OutputCapture capture;
+    airstate::AlertCapture capture;
     StateFromEnthalpyMoisture(s);
     EXPECT_TRUE(std::isnan(s.t));
     EXPECT_EQ(s.pb, 777.0);
@@ -177,7 +177,7 @@ TEST(StateFromMoistureHumidity, ZeroHumidityFails) {
     AirState s = Record(101.325);
     s.d = 10.0;
     s.fy = 0.0;
-    host::OutputCapture capture;
+    airstate::AlertCapture capture;
     EXPECT_EQ(StateFromMoistureHumidity(s), RTERROR);
     EXPECT_TRUE(std::isinf(s.pb));
     EXPECT_EQ(s.t, -1000.0);  // no dew point for an infinite pressure
@@ -188,7 +188,7 @@ TEST(StateFromMoistureHumidity, BothTemperaturesOutOfRangeAlertTwice) {
     AirState s = Record(101.325);
     s.d = 0.0001;  // vapour pressure 0.016 Pa, far below the ice curve at -60 °C
     s.fy = 50.0;
-    host::OutputCapture capture;
+    airstate::AlertCapture capture;
     StateFromMoistureHumidity(s);
     EXPECT_EQ(s.t, -1000.0);
     EXPECT_EQ(s.tl, -1000.0);
@@ -201,7 +201,7 @@ TEST(StateFromTempHumidity, DewPointBelowRangeAlertsOnce) {
     AirState s = Record(101.325);
     s.t = -50.0;
     s.fy = 10.0;  // 0.39 Pa of vapour, dew point below -60 °C
-    host::OutputCapture capture;
+    airstate::AlertCapture capture;
     EXPECT_EQ(StateFromTempHumidity(s), RTNORM);
     EXPECT_EQ(s.tl, -1000.0);
     ASSERT_EQ(capture.alerts().size(), 1u);
@@ -278,7 +278,7 @@ TEST(StateFromEnthalpyHumidity, LeavesMoistureAndEnthalpyAlone) {
     EXPECT_NEAR(s.tl, 10.537494371195536, kRootAbs_C);  // dew point of d = 8, not of pq
 
     s.d = -1.0;  // the d < 0 check reads the caller's d
-    host::OutputCapture capture;
+    airstate::AlertCapture capture;
     EXPECT_EQ(StateFromEnthalpyHumidity(s), RTERROR);
     EXPECT_EQ(s.d, -1.0);
 }

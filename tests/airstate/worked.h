@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-#include "host/output.h"
+#include "psychro/airstate/alert.h"
 #include "psychro/airstate/airstate.h"
 
 namespace airstate_test {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "adscodes.h"
-#include "host/output.h"
 #include "psychro/airstate/airstate.h"
+#include "psychro/airstate/alert.h"
 #include "psychro/airstate/tool/command_line.h"
 #include "psychro/airstate/tool/report.h"
 #include "psychro/airstate/tool/solver_choice.h"
@@ -91,7 +91,7 @@ int main(int argc, char** argv) {
 
     Outcome outcome{solver, request.fields, InitialState(request), RTNORM, {}};
     {
-        host::OutputCapture capture;  // the library's alerts become part of the report
+        airstate::AlertCapture capture;  // the library's alerts become part of the report
         outcome.status = solver->solve(outcome.state);
         outcome.alerts = capture.alerts();
     }

@@ -3,10 +3,35 @@
 #include <cmath>
 
 #include "adscodes.h"
-#include "host/text.h"
 
 namespace airstate_tool {
 namespace {
+
+// The alert texts are wide; the terminal and JSON take UTF-8. A value that is no Unicode
+// scalar becomes U+FFFD.
+std::string Utf8(std::wstring_view text) {
+    std::string out;
+    for (wchar_t wc : text) {
+        auto c = static_cast<unsigned long>(wc);
+        if (c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) c = 0xFFFD;
+        if (c < 0x80) {
+            out += static_cast<char>(c);
+        } else if (c < 0x800) {
+            out += static_cast<char>(0xC0 | (c >> 6));
+            out += static_cast<char>(0x80 | (c & 0x3F));
+        } else if (c < 0x10000) {
+            out += static_cast<char>(0xE0 | (c >> 12));
+            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+            out += static_cast<char>(0x80 | (c & 0x3F));
+        } else {
+            out += static_cast<char>(0xF0 | (c >> 18));
+            out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+            out += static_cast<char>(0x80 | (c & 0x3F));
+        }
+    }
+    return out;
+}
 
 struct FieldRow {
     const char* name;
@@ -75,7 +100,7 @@ void WriteTable(std::FILE* out, const Outcome& outcome) {
     }
     std::fprintf(out, "status  %s (%d)\n", StatusName(outcome.status), outcome.status);
     for (const std::wstring& alert : outcome.alerts)
-        std::fprintf(out, "alert   %s\n", host::toUtf8(alert).c_str());
+        std::fprintf(out, "alert   %s\n", Utf8(alert).c_str());
 }
 
 void WriteJson(std::FILE* out, const Outcome& outcome) {
@@ -84,7 +109,7 @@ void WriteJson(std::FILE* out, const Outcome& outcome) {
         json += ", \"" + std::string(row.name) + "\": " + JsonNumber(outcome.state.*row.member);
     json += ", \"status\": " + std::to_string(outcome.status) + ", \"alerts\": [";
     for (std::size_t k = 0; k < outcome.alerts.size(); ++k)
-        json += (k ? ", " : "") + JsonString(host::toUtf8(outcome.alerts[k]));
+        json += (k ? ", " : "") + JsonString(Utf8(outcome.alerts[k]));
     json += "]}\n";
     std::fputs(json.c_str(), out);
 }
