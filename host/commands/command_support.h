@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "adsdef.h"
-#include "host/runtime/commands.h"
 #include "host/db/resbuf.h"
+#include "host/runtime/commands.h"
 
 namespace host {
 class SysVars;

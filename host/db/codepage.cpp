@@ -25,7 +25,8 @@ std::string upper(std::string_view s) {
     return out;
 }
 
-// One conversion descriptor per charset and direction, opened on first use. The host runs
+// One conversion descriptor per charset and direction, opened on first use and kept for the
+// process: a cache of the C library's converters, nothing a session could see. The host runs
 // drawing work on one thread; the lock keeps a stray caller from corrupting the cache.
 class IconvCache {
 public:

@@ -14,6 +14,8 @@
 namespace host::db {
 namespace {
 
+// Serials are unique in the whole process, not per session: an entity or set name of one
+// drawing is never taken for one of another, even one of an earlier session.
 long nextSerial() {
     static std::atomic<long> serial{0x5A00};
     return ++serial;

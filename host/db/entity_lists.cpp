@@ -1,9 +1,9 @@
 #include "host/db/entity_lists.h"
 
 #include "adscodes.h"
+#include "host/db/resbuf.h"
 #include "host/db/resbuf_groups.h"
 #include "host/db/wildcard.h"
-#include "host/db/resbuf.h"
 
 namespace host::db {
 

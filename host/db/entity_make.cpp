@@ -3,6 +3,7 @@
 // ENDBLK, and is then added whole with fresh handles and the owners of its file version.
 #include "acdbads.h"
 #include "adscodes.h"
+#include "host/boundary.h"
 #include "host/db/api_support.h"
 #include "host/db/blob.h"
 #include "host/db/entity_lists.h"
@@ -330,10 +331,12 @@ int makeEntity(Database& db, const resbuf* list) {
 }  // namespace host::db
 
 extern "C" int acdbEntMake(const struct resbuf* ent) {
-    host::db::Database* db = host::db::currentDb();
-    if (!db || !ent) {
-        host::db::setErrno(host::db::kErrNullPointer);
-        return RTERROR;
-    }
-    return host::db::makeEntity(*db, ent);
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        host::db::Database* db = host::db::currentDb();
+        if (!db || !ent) {
+            host::db::setErrno(host::db::kErrNullPointer);
+            return RTERROR;
+        }
+        return host::db::makeEntity(*db, ent);
+    });
 }

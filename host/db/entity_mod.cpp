@@ -8,6 +8,7 @@
 
 #include "acdbads.h"
 #include "adscodes.h"
+#include "host/boundary.h"
 #include "host/db/api_support.h"
 #include "host/db/entity_lists.h"
 #include "host/db/entity_mod.h"
@@ -224,10 +225,12 @@ int modifyEntity(Database& db, const resbuf* list) {
 }  // namespace host::db
 
 extern "C" int acdbEntMod(const struct resbuf* ent) {
-    host::db::Database* db = host::db::currentDb();
-    if (!db || !ent) {
-        host::db::setErrno(host::db::kErrNullPointer);
-        return RTERROR;
-    }
-    return host::db::modifyEntity(*db, ent);
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        host::db::Database* db = host::db::currentDb();
+        if (!db || !ent) {
+            host::db::setErrno(host::db::kErrNullPointer);
+            return RTERROR;
+        }
+        return host::db::modifyEntity(*db, ent);
+    });
 }

@@ -5,8 +5,8 @@
 #include <cstdlib>
 
 #include "host/db/blob.h"
-#include "host/text.h"
 #include "host/db/database.h"
+#include "host/text.h"
 
 namespace host::db {
 namespace {

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "acutads.h"
+#include "host/boundary.h"
 #include "host/db/groupcodes.h"
 
 namespace host {
@@ -78,72 +79,81 @@ resbuf* copyChain(const resbuf* rb) {
 
 using host::GroupType;
 
-extern "C" struct resbuf* acutNewRb(int v) { return host::newRb(v); }
+extern "C" struct resbuf* acutNewRb(int v) {
+    return host::guarded(__func__, nullptr, [&]() -> struct resbuf* {
+        return host::newRb(v);
+    });
+}
 
 extern "C" int acutRelRb(struct resbuf* rb) {
-    while (rb) {
-        resbuf* next = rb->rbnext;
-        switch (host::groupType(rb->restype)) {
-        case GroupType::String:
-        case GroupType::Handle: std::free(rb->resval.rstring); break;
-        case GroupType::Binary: std::free(rb->resval.rbinary.buf); break;
-        default: break;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        while (rb) {
+            resbuf* next = rb->rbnext;
+            switch (host::groupType(rb->restype)) {
+            case GroupType::String:
+            case GroupType::Handle: std::free(rb->resval.rstring); break;
+            case GroupType::Binary: std::free(rb->resval.rbinary.buf); break;
+            default: break;
+            }
+            std::free(rb);
+            rb = next;
         }
-        std::free(rb);
-        rb = next;
-    }
-    return RTNORM;
+        return RTNORM;
+    });
 }
 
 extern "C" struct resbuf* acutBuildList(int rtype, ...) {
     va_list args;
     va_start(args, rtype);
-    resbuf* head = nullptr;
-    resbuf** tail = &head;
-    bool failed = false;
-    for (int type = rtype; type != 0 && type != RTNONE; type = va_arg(args, int)) {
-        int code = type == RTDXF0 ? 0 : type;
-        resbuf* rb = host::newRb(code);
-        if (!rb) {
-            failed = true;
-            break;
+    struct resbuf* result = host::guarded(__func__, nullptr, [&]() -> struct resbuf* {
+        resbuf* head = nullptr;
+        resbuf** tail = &head;
+        bool failed = false;
+        for (int type = rtype; type != 0 && type != RTNONE; type = va_arg(args, int)) {
+            int code = type == RTDXF0 ? 0 : type;
+            resbuf* rb = host::newRb(code);
+            if (!rb) {
+                failed = true;
+                break;
+            }
+            *tail = rb;
+            tail = &rb->rbnext;
+            if (type == RTLB || type == RTLE || type == RTDOTE || type == RTNIL || type == RTT ||
+                type == RTVOID || type == -3)
+                continue;
+            switch (host::groupType(code)) {
+            case GroupType::Real: rb->resval.rreal = va_arg(args, double); break;
+            case GroupType::Point: {
+                const double* p = va_arg(args, const double*);
+                std::memcpy(rb->resval.rpoint, p, sizeof(ads_point));
+                break;
+            }
+            case GroupType::Short: rb->resval.rint = static_cast<short>(va_arg(args, int)); break;
+            case GroupType::Long: rb->resval.rlong = va_arg(args, long); break;
+            case GroupType::String:
+            case GroupType::Handle: {
+                const ACHAR* s = va_arg(args, const ACHAR*);
+                rb->resval.rstring = host::copyString(s ? s : L"");
+                if (!rb->resval.rstring) failed = true;
+                break;
+            }
+            case GroupType::Name: {
+                const long* n = va_arg(args, const long*);
+                rb->resval.rlname[0] = n[0];
+                rb->resval.rlname[1] = n[1];
+                break;
+            }
+            case GroupType::Binary:
+            case GroupType::None: failed = true; break;
+            }
+            if (failed) break;
         }
-        *tail = rb;
-        tail = &rb->rbnext;
-        if (type == RTLB || type == RTLE || type == RTDOTE || type == RTNIL || type == RTT ||
-            type == RTVOID || type == -3)
-            continue;
-        switch (host::groupType(code)) {
-        case GroupType::Real: rb->resval.rreal = va_arg(args, double); break;
-        case GroupType::Point: {
-            const double* p = va_arg(args, const double*);
-            std::memcpy(rb->resval.rpoint, p, sizeof(ads_point));
-            break;
+        if (failed) {
+            acutRelRb(head);
+            return nullptr;
         }
-        case GroupType::Short: rb->resval.rint = static_cast<short>(va_arg(args, int)); break;
-        case GroupType::Long: rb->resval.rlong = va_arg(args, long); break;
-        case GroupType::String:
-        case GroupType::Handle: {
-            const ACHAR* s = va_arg(args, const ACHAR*);
-            rb->resval.rstring = host::copyString(s ? s : L"");
-            if (!rb->resval.rstring) failed = true;
-            break;
-        }
-        case GroupType::Name: {
-            const long* n = va_arg(args, const long*);
-            rb->resval.rlname[0] = n[0];
-            rb->resval.rlname[1] = n[1];
-            break;
-        }
-        case GroupType::Binary:
-        case GroupType::None: failed = true; break;
-        }
-        if (failed) break;
-    }
+        return head;
+    });
     va_end(args);
-    if (failed) {
-        acutRelRb(head);
-        return nullptr;
-    }
-    return head;
+    return result;
 }

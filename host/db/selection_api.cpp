@@ -9,6 +9,7 @@
 #include "acedads.h"
 #include "acutads.h"
 #include "adscodes.h"
+#include "host/boundary.h"
 #include "host/db/api_support.h"
 #include "host/db/selection.h"
 #include "host/db/selection_filter.h"
@@ -223,92 +224,104 @@ int storeSelection(Database& db, const std::vector<uint32_t>& members, ads_name 
 }  // namespace host::db
 
 extern "C" int acedSSFree(const ads_name sname) {
-    Database* db;
-    if (!findSet(db, sname)) {
-        setErrno(kErrBadSet);
-        return RTERROR;
-    }
-    db->selectionSets().release(sname[1]);
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Database* db;
+        if (!findSet(db, sname)) {
+            setErrno(kErrBadSet);
+            return RTERROR;
+        }
+        db->selectionSets().release(sname[1]);
+        return RTNORM;
+    });
 }
 
 extern "C" int acedSSLength(const ads_name sname, long* len) {
-    Database* db;
-    auto* set = findSet(db, sname);
-    if (!set || !len) {
-        setErrno(kErrBadSet);
-        return RTERROR;
-    }
-    *len = static_cast<long>(set->members.size());
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Database* db;
+        auto* set = findSet(db, sname);
+        if (!set || !len) {
+            setErrno(kErrBadSet);
+            return RTERROR;
+        }
+        *len = static_cast<long>(set->members.size());
+        return RTNORM;
+    });
 }
 
 extern "C" int acedSSName(const ads_name ss, long i, ads_name entres) {
-    Database* db;
-    auto* set = findSet(db, ss);
-    if (!set || !entres) {
-        setErrno(kErrBadSet);
-        return RTERROR;
-    }
-    if (i < 0 || static_cast<size_t>(i) >= set->members.size()) return RTERROR;
-    db->nameOf(set->members[static_cast<size_t>(i)], entres);
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Database* db;
+        auto* set = findSet(db, ss);
+        if (!set || !entres) {
+            setErrno(kErrBadSet);
+            return RTERROR;
+        }
+        if (i < 0 || static_cast<size_t>(i) >= set->members.size()) return RTERROR;
+        db->nameOf(set->members[static_cast<size_t>(i)], entres);
+        return RTNORM;
+    });
 }
 
 extern "C" int acedSSAdd(const ads_name ename, const ads_name sname, ads_name result) {
-    Database* db = currentDb();
-    if (!db || !result) {
-        setErrno(kErrNullPointer);
-        return RTERROR;
-    }
-    uint32_t entity = kNone;
-    if (ename && !acdbNameNil(ename)) {
-        entity = liveEntity(*db, ename);
-        if (entity == kNone) {
-            setErrno(kErrBadName);
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Database* db = currentDb();
+        if (!db || !result) {
+            setErrno(kErrNullPointer);
             return RTERROR;
         }
-    }
-    if (sname && !acdbNameNil(sname)) {
-        Database* owner;
-        auto* set = findSet(owner, sname);
+        uint32_t entity = kNone;
+        if (ename && !acdbNameNil(ename)) {
+            entity = liveEntity(*db, ename);
+            if (entity == kNone) {
+                setErrno(kErrBadName);
+                return RTERROR;
+            }
+        }
+        if (sname && !acdbNameNil(sname)) {
+            Database* owner;
+            auto* set = findSet(owner, sname);
+            if (!set) {
+                setErrno(kErrBadSet);
+                return RTERROR;
+            }
+            if (entity != kNone) set->add(entity);  // a member already: nothing to do
+            result[0] = sname[0];
+            result[1] = sname[1];
+            return RTNORM;
+        }
+        long id = db->selectionSets().create();
+        if (!id) {
+            setErrno(kErrTooManySets);
+            return RTERROR;
+        }
+        if (entity != kNone) db->selectionSets().find(id)->add(entity);
+        setName(*db, id, result);
+        return RTNORM;
+    });
+}
+
+extern "C" int acedSSDel(const ads_name ename, const ads_name ss) {
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Database* db;
+        auto* set = findSet(db, ss);
         if (!set) {
             setErrno(kErrBadSet);
             return RTERROR;
         }
-        if (entity != kNone) set->add(entity);  // a member already: nothing to do
-        result[0] = sname[0];
-        result[1] = sname[1];
-        return RTNORM;
-    }
-    long id = db->selectionSets().create();
-    if (!id) {
-        setErrno(kErrTooManySets);
-        return RTERROR;
-    }
-    if (entity != kNone) db->selectionSets().find(id)->add(entity);
-    setName(*db, id, result);
-    return RTNORM;
-}
-
-extern "C" int acedSSDel(const ads_name ename, const ads_name ss) {
-    Database* db;
-    auto* set = findSet(db, ss);
-    if (!set) {
-        setErrno(kErrBadSet);
-        return RTERROR;
-    }
-    uint32_t entity = ename ? db->indexOf(ename) : kNone;
-    return entity != kNone && set->remove(entity) ? RTNORM : RTERROR;
+        uint32_t entity = ename ? db->indexOf(ename) : kNone;
+        return entity != kNone && set->remove(entity) ? RTNORM : RTERROR;
+    });
 }
 
 extern "C" int acedSSMemb(const ads_name ename, const ads_name ss) {
-    Database* db;
-    auto* set = findSet(db, ss);
-    if (!set) {
-        setErrno(kErrBadSet);
-        return RTERROR;
-    }
-    uint32_t entity = ename ? db->indexOf(ename) : kNone;
-    return entity != kNone && set->contains(entity) ? RTNORM : RTERROR;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Database* db;
+        auto* set = findSet(db, ss);
+        if (!set) {
+            setErrno(kErrBadSet);
+            return RTERROR;
+        }
+        uint32_t entity = ename ? db->indexOf(ename) : kNone;
+        return entity != kNone && set->contains(entity) ? RTNORM : RTERROR;
+    });
 }

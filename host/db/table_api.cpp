@@ -3,10 +3,11 @@
 // the name, the flags and the entry's own values, without handles, owners or subclasses.
 #include "acdbads.h"
 #include "adscodes.h"
+#include "host/boundary.h"
 #include "host/db/api_support.h"
+#include "host/db/resbuf.h"
 #include "host/db/resbuf_groups.h"
 #include "host/db/tables.h"
-#include "host/db/resbuf.h"
 #include "host/text.h"
 
 using namespace host;
@@ -88,59 +89,65 @@ std::vector<std::pair<uint32_t, uint32_t>> entriesOf(const Database& db, const s
 }  // namespace
 
 extern "C" int acdbRegApp(const ACHAR* appname) {
-    Database* db = currentDb();
-    if (!db || !appname) {
-        setErrno(kErrNullPointer);
-        return RTERROR;
-    }
-    if (!validAppName(appname)) {
-        setErrno(kErrBadSymbolName);
-        return RTERROR;
-    }
-    if (db->findEntry("APPID", appname) != kNone) {
-        setErrno(kErrDuplicateAppId);
-        return RTERROR;
-    }
-    std::wstring name = db->isR12() ? upperAscii(appname) : std::wstring(appname);
-    addTableEntry(*db, "APPID", {stringGroup(2, name), intGroup(70, 0)});
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Database* db = currentDb();
+        if (!db || !appname) {
+            setErrno(kErrNullPointer);
+            return RTERROR;
+        }
+        if (!validAppName(appname)) {
+            setErrno(kErrBadSymbolName);
+            return RTERROR;
+        }
+        if (db->findEntry("APPID", appname) != kNone) {
+            setErrno(kErrDuplicateAppId);
+            return RTERROR;
+        }
+        std::wstring name = db->isR12() ? upperAscii(appname) : std::wstring(appname);
+        addTableEntry(*db, "APPID", {stringGroup(2, name), intGroup(70, 0)});
+        return RTNORM;
+    });
 }
 
 extern "C" struct resbuf* acdbTblSearch(const ACHAR* tblname, const ACHAR* sym, int setnext) {
-    Database* db = currentDb();
-    if (!db || !tblname || !sym) {
-        setErrno(kErrNullPointer);
+    return host::guarded(__func__, nullptr, [&]() -> struct resbuf* {
+        Database* db = currentDb();
+        if (!db || !tblname || !sym) {
+            setErrno(kErrNullPointer);
+            return nullptr;
+        }
+        std::string table = tableName(tblname);
+        if (table.empty()) {
+            setErrno(kErrBadTableName);
+            return nullptr;
+        }
+        auto entries = entriesOf(*db, table);
+        for (size_t i = 0; i < entries.size(); ++i) {
+            if (!equalsNoCase(db->recordName(entries[i].first), sym)) continue;
+            if (setnext) db->tableCursors()[table] = i + 1;
+            return entryList(*db, fromUtf8(table), entries[i].first, entries[i].second);
+        }
         return nullptr;
-    }
-    std::string table = tableName(tblname);
-    if (table.empty()) {
-        setErrno(kErrBadTableName);
-        return nullptr;
-    }
-    auto entries = entriesOf(*db, table);
-    for (size_t i = 0; i < entries.size(); ++i) {
-        if (!equalsNoCase(db->recordName(entries[i].first), sym)) continue;
-        if (setnext) db->tableCursors()[table] = i + 1;
-        return entryList(*db, fromUtf8(table), entries[i].first, entries[i].second);
-    }
-    return nullptr;
+    });
 }
 
 extern "C" struct resbuf* acdbTblNext(const ACHAR* tblname, int rewind) {
-    Database* db = currentDb();
-    if (!db || !tblname) {
-        setErrno(kErrNullPointer);
-        return nullptr;
-    }
-    std::string table = tableName(tblname);
-    if (table.empty()) {
-        setErrno(kErrBadTableName);
-        return nullptr;
-    }
-    size_t& cursor = db->tableCursors()[table];
-    if (rewind) cursor = 0;
-    auto entries = entriesOf(*db, table);
-    if (cursor >= entries.size()) return nullptr;
-    auto [record, block] = entries[cursor++];
-    return entryList(*db, fromUtf8(table), record, block);
+    return host::guarded(__func__, nullptr, [&]() -> struct resbuf* {
+        Database* db = currentDb();
+        if (!db || !tblname) {
+            setErrno(kErrNullPointer);
+            return nullptr;
+        }
+        std::string table = tableName(tblname);
+        if (table.empty()) {
+            setErrno(kErrBadTableName);
+            return nullptr;
+        }
+        size_t& cursor = db->tableCursors()[table];
+        if (rewind) cursor = 0;
+        auto entries = entriesOf(*db, table);
+        if (cursor >= entries.size()) return nullptr;
+        auto [record, block] = entries[cursor++];
+        return entryList(*db, fromUtf8(table), record, block);
+    });
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "acutads.h"
+#include "host/boundary.h"
 #include "host/text.h"
 
 namespace host::db {
@@ -178,6 +179,8 @@ bool wildcardMatchNoCase(std::wstring_view text, std::wstring_view pattern) {
 }  // namespace host::db
 
 extern "C" int acutWcMatch(const ACHAR* string, const ACHAR* pattern) {
-    if (!string || !pattern) return RTERROR;
-    return host::db::wildcardMatch(string, pattern) ? RTNORM : RTERROR;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        if (!string || !pattern) return RTERROR;
+        return host::db::wildcardMatch(string, pattern) ? RTNORM : RTERROR;
+    });
 }

@@ -2,6 +2,7 @@
 
 #include "acdbads.h"
 #include "adscodes.h"
+#include "host/boundary.h"
 #include "host/db/api_support.h"
 #include "host/db/resbuf_groups.h"
 #include "host/db/tables.h"
@@ -71,47 +72,51 @@ long xdataSize(const std::vector<XdataBlock>& blocks) {
 using namespace host::db;
 
 extern "C" int acdbXdRoom(const ads_name ent, long* result) {
-    Database* db = currentDb();
-    if (!db || !ent || !result) {
-        setErrno(kErrNullPointer);
-        return RTERROR;
-    }
-    uint32_t index = db->indexOf(ent);
-    if (index == kNone) {
-        setErrno(kErrBadName);
-        return RTERROR;
-    }
-    GroupList data, xdata;
-    decodeGroups(*db, db->record(index).groups, data, &xdata);
-    *result = kXdataRoom - xdataSize(splitXdata(xdata));
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Database* db = currentDb();
+        if (!db || !ent || !result) {
+            setErrno(kErrNullPointer);
+            return RTERROR;
+        }
+        uint32_t index = db->indexOf(ent);
+        if (index == kNone) {
+            setErrno(kErrBadName);
+            return RTERROR;
+        }
+        GroupList data, xdata;
+        decodeGroups(*db, db->record(index).groups, data, &xdata);
+        *result = kXdataRoom - xdataSize(splitXdata(xdata));
+        return RTNORM;
+    });
 }
 
 extern "C" int acdbXdSize(const struct resbuf* rb, long* result) {
-    Database* db = currentDb();
-    if (!db || !rb || !result) {
-        setErrno(kErrNullPointer);
-        return RTERROR;
-    }
-    if (rb->restype == -3) rb = rb->rbnext;
-    GroupList groups;
-    for (; rb; rb = rb->rbnext) {
-        Group g;
-        if (!resbufToGroup(*db, rb, g)) {
-            setErrno(kErrBadXdataType);
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Database* db = currentDb();
+        if (!db || !rb || !result) {
+            setErrno(kErrNullPointer);
             return RTERROR;
         }
-        groups.push_back(std::move(g));
-    }
-    if (groups.empty() || groups.front().code != 1001) {
-        setErrno(kErrBadAppId);
-        return RTERROR;
-    }
-    auto blocks = splitXdata(groups);
-    if (short err = checkXdata(*db, blocks)) {
-        setErrno(err);
-        return RTERROR;
-    }
-    *result = xdataSize(blocks);
-    return RTNORM;
+        if (rb->restype == -3) rb = rb->rbnext;
+        GroupList groups;
+        for (; rb; rb = rb->rbnext) {
+            Group g;
+            if (!resbufToGroup(*db, rb, g)) {
+                setErrno(kErrBadXdataType);
+                return RTERROR;
+            }
+            groups.push_back(std::move(g));
+        }
+        if (groups.empty() || groups.front().code != 1001) {
+            setErrno(kErrBadAppId);
+            return RTERROR;
+        }
+        auto blocks = splitXdata(groups);
+        if (short err = checkXdata(*db, blocks)) {
+            setErrno(err);
+            return RTERROR;
+        }
+        *result = xdataSize(blocks);
+        return RTNORM;
+    });
 }

@@ -4,9 +4,10 @@
 #include <cmath>
 
 #include "adsdlg.h"
+#include "host/boundary.h"
+#include "host/dcl/dcl.h"
 #include "host/dcl/runtime.h"
 #include "host/dcl/tile_values.h"
-#include "host/dcl/dcl.h"
 
 using host::dcl::ImageOp;
 using host::dcl::Runtime;
@@ -50,37 +51,47 @@ bool host::dcl::recordImageVector(short x1, short y1, short x2, short y2, short 
 }
 
 extern "C" int ads_dimensions_tile(ads_hdlg hdlg, const ACHAR* key, short* cx, short* cy) {
-    Runtime& rt = Runtime::instance();
-    host::dcl::Dialog* dialog = rt.dialog(hdlg);
-    int tile = rt.findTile(dialog, key);
-    if (tile < 0 || !cx || !cy) return RTERROR;
-    long width = 0, height = 0;
-    pixelSize(*dialog->tile(tile).source, width, height);
-    *cx = static_cast<short>(std::clamp(width - 1, 0L, 32767L));
-    *cy = static_cast<short>(std::clamp(height - 1, 0L, 32767L));
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Runtime& rt = Runtime::instance();
+        host::dcl::Dialog* dialog = rt.dialog(hdlg);
+        int tile = rt.findTile(dialog, key);
+        if (tile < 0 || !cx || !cy) return RTERROR;
+        long width = 0, height = 0;
+        pixelSize(*dialog->tile(tile).source, width, height);
+        *cx = static_cast<short>(std::clamp(width - 1, 0L, 32767L));
+        *cy = static_cast<short>(std::clamp(height - 1, 0L, 32767L));
+        return RTNORM;
+    });
 }
 
 extern "C" int ads_start_image(ads_hdlg hdlg, const ACHAR* key) {
-    Runtime& rt = Runtime::instance();
-    host::dcl::Dialog* dialog = rt.dialog(hdlg);
-    int tile = rt.findTile(dialog, key);
-    if (tile < 0 || !host::dcl::isImage(dialog->tile(tile).kind())) return RTERROR;
-    rt.image = host::dcl::ImageSession{dialog->serial(), tile};
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Runtime& rt = Runtime::instance();
+        host::dcl::Dialog* dialog = rt.dialog(hdlg);
+        int tile = rt.findTile(dialog, key);
+        if (tile < 0 || !host::dcl::isImage(dialog->tile(tile).kind())) return RTERROR;
+        rt.image = host::dcl::ImageSession{dialog->serial(), tile};
+        return RTNORM;
+    });
 }
 
 extern "C" int ads_fill_image(short x1, short y1, short x2, short y2, short color) {
-    return record(ImageOp{ImageOp::Kind::Fill, x1, y1, x2, y2, color, {}}) ? RTNORM : RTERROR;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        return record(ImageOp{ImageOp::Kind::Fill, x1, y1, x2, y2, color, {}}) ? RTNORM : RTERROR;
+    });
 }
 
 extern "C" int ads_slide_image(short x1, short y1, short x2, short y2, const ACHAR* slnam) {
-    if (!slnam) return RTERROR;
-    return record(ImageOp{ImageOp::Kind::Slide, x1, y1, x2, y2, 0, slnam}) ? RTNORM : RTERROR;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        if (!slnam) return RTERROR;
+        return record(ImageOp{ImageOp::Kind::Slide, x1, y1, x2, y2, 0, slnam}) ? RTNORM : RTERROR;
+    });
 }
 
 extern "C" int ads_end_image(void) {
-    bool open = openImageTile() != nullptr;
-    Runtime::instance().image.reset();
-    return open ? RTNORM : RTERROR;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        bool open = openImageTile() != nullptr;
+        Runtime::instance().image.reset();
+        return open ? RTNORM : RTERROR;
+    });
 }

@@ -2,9 +2,9 @@
 
 #include <cwchar>
 
+#include "host/dcl/lisp_actions.h"
 #include "host/dcl/runtime.h"
 #include "host/dcl/tile_values.h"
-#include "host/dcl/lisp_actions.h"
 
 namespace host::dcl {
 namespace {

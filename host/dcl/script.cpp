@@ -1,9 +1,9 @@
 #include "host/dcl/script.h"
 
 #include "acutads.h"
+#include "host/dcl/dialog_script.h"
 #include "host/dcl/interaction.h"
 #include "host/dcl/runtime.h"
-#include "host/dcl/dialog_script.h"
 
 namespace host::dcl {
 namespace {

@@ -4,9 +4,9 @@
 #include "acdbads.h"
 #include "acedads.h"
 #include "acutads.h"
+#include "host/db/resbuf.h"
 #include "host/lisp/interpreter.h"
 #include "host/runtime/convert.h"
-#include "host/db/resbuf.h"
 
 namespace host::lisp {
 namespace {

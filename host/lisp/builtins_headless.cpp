@@ -1,6 +1,6 @@
 // The host's headless forms: scripted dialog actions, queued picks and typed replies.
-#include "host/lisp/interpreter.h"
 #include "host/dcl/dialog_script.h"
+#include "host/lisp/interpreter.h"
 #include "host/runtime/input.h"
 
 namespace host::lisp {

@@ -6,14 +6,17 @@
 
 #include "acedads.h"
 #include "acutads.h"
+#include "host/boundary.h"
 #include "host/dcl/dcl.h"
-#include "host/runtime/host.h"
 #include "host/output.h"
+#include "host/runtime/host.h"
 #include "host/text.h"
 
 namespace host {
 namespace {
 
+// The commands the host knows: filled once by the registrations of the command files when
+// the library loads, and only read afterwards. It is code, not state of a session.
 std::map<std::wstring, CommandHandler>& commands() {
     static std::map<std::wstring, CommandHandler> table;
     return table;
@@ -81,52 +84,57 @@ int runCommands(CommandInput& input) {
 }  // namespace host
 
 extern "C" int acedCmd(const struct resbuf* rbp) {
-    if (host::dcl::rejectWhileDialogOpen(L"acedCmd")) return RTREJ;
-    return host::runResbufs(rbp);
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        if (host::dcl::rejectWhileDialogOpen(L"acedCmd")) return RTREJ;
+        return host::runResbufs(rbp);
+    });
 }
 
 extern "C" int acedCommand(int rtype, ...) {
-    if (host::dcl::rejectWhileDialogOpen(L"acedCommand")) return RTREJ;
     va_list args;
     va_start(args, rtype);
-    std::vector<host::CommandToken> tokens;
-    int status = RTNORM;
-    for (int type = rtype; type != 0 && type != RTNONE; type = va_arg(args, int)) {
-        host::CommandToken t;
-        t.type = type;
-        switch (type) {
-        case RTSTR: {
-            const ACHAR* s = va_arg(args, const ACHAR*);
-            t.text = s ? s : L"";
-            break;
+    int result = host::guarded(__func__, RTERROR, [&]() -> int {
+        if (host::dcl::rejectWhileDialogOpen(L"acedCommand")) return RTREJ;
+        std::vector<host::CommandToken> tokens;
+        int status = RTNORM;
+        for (int type = rtype; type != 0 && type != RTNONE; type = va_arg(args, int)) {
+            host::CommandToken t;
+            t.type = type;
+            switch (type) {
+            case RTSTR: {
+                const ACHAR* s = va_arg(args, const ACHAR*);
+                t.text = s ? s : L"";
+                break;
+            }
+            case RTREAL:
+            case RTANG:
+            case RTORINT: t.type = RTREAL; t.real = va_arg(args, double); break;
+            case RTSHORT: t.integer = static_cast<short>(va_arg(args, int)); t.real = t.integer; break;
+            case RTLONG: t.type = RTSHORT; t.integer = static_cast<short>(va_arg(args, long)); t.real = t.integer; break;
+            case RTPOINT:
+            case RT3DPOINT: {
+                const double* p = va_arg(args, const double*);
+                t.point[0] = p[0];
+                t.point[1] = p[1];
+                t.point[2] = type == RT3DPOINT ? p[2] : 0.0;
+                break;
+            }
+            case RTENAME:
+            case RTPICKS: {
+                const long* n = va_arg(args, const long*);
+                t.name[0] = n[0];
+                t.name[1] = n[1];
+                break;
+            }
+            default: status = RTREJ; break;
+            }
+            if (status != RTNORM) break;
+            tokens.push_back(std::move(t));
         }
-        case RTREAL:
-        case RTANG:
-        case RTORINT: t.type = RTREAL; t.real = va_arg(args, double); break;
-        case RTSHORT: t.integer = static_cast<short>(va_arg(args, int)); t.real = t.integer; break;
-        case RTLONG: t.type = RTSHORT; t.integer = static_cast<short>(va_arg(args, long)); t.real = t.integer; break;
-        case RTPOINT:
-        case RT3DPOINT: {
-            const double* p = va_arg(args, const double*);
-            t.point[0] = p[0];
-            t.point[1] = p[1];
-            t.point[2] = type == RT3DPOINT ? p[2] : 0.0;
-            break;
-        }
-        case RTENAME:
-        case RTPICKS: {
-            const long* n = va_arg(args, const long*);
-            t.name[0] = n[0];
-            t.name[1] = n[1];
-            break;
-        }
-        default: status = RTREJ; break;
-        }
-        if (status != RTNORM) break;
-        tokens.push_back(std::move(t));
-    }
+        if (status != RTNORM) return status;
+        host::CommandInput input(std::move(tokens));
+        return host::runCommands(input);
+    });
     va_end(args);
-    if (status != RTNORM) return status;
-    host::CommandInput input(std::move(tokens));
-    return host::runCommands(input);
+    return result;
 }

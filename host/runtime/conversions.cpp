@@ -6,6 +6,7 @@
 #include <string>
 
 #include "acdbads.h"
+#include "host/boundary.h"
 #include "host/runtime/host.h"
 
 namespace {
@@ -37,43 +38,47 @@ std::wstring suppressZeros(std::wstring s, int dimzin) {
 }  // namespace
 
 extern "C" int acdbRToS(ads_real val, int unit, int prec, ACHAR* str) {
-    if (!str) return RTERROR;
-    if (unit == -1) unit = sysvarShort(L"LUNITS", 2);
-    if (prec == -1) prec = sysvarShort(L"LUPREC", 4);
-    if (prec < 0 || prec > 8 || !std::isfinite(val)) return RTERROR;
-    wchar_t buf[128];
-    if (unit == 2) {
-        // Round half away from zero at the requested decimals.
-        double scale = std::pow(10.0, prec);
-        double rounded = std::round(val * scale) / scale;
-        std::swprintf(buf, 128, L"%.*f", prec, rounded);
-        if (std::wcscmp(buf, L"-0") == 0 || (buf[0] == L'-' && rounded == 0.0)) std::swprintf(buf, 128, L"%.*f", prec, 0.0);
-    } else if (unit == 1) {
-        std::swprintf(buf, 128, L"%.*E", prec, val);
-    } else {
-        return RTERROR;  // architectural, engineering and fractional units are not provided
-    }
-    std::wstring s = suppressZeros(buf, sysvarShort(L"DIMZIN", 0));
-    std::wcscpy(str, s.c_str());
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        if (!str) return RTERROR;
+        if (unit == -1) unit = sysvarShort(L"LUNITS", 2);
+        if (prec == -1) prec = sysvarShort(L"LUPREC", 4);
+        if (prec < 0 || prec > 8 || !std::isfinite(val)) return RTERROR;
+        wchar_t buf[128];
+        if (unit == 2) {
+            // Round half away from zero at the requested decimals.
+            double scale = std::pow(10.0, prec);
+            double rounded = std::round(val * scale) / scale;
+            std::swprintf(buf, 128, L"%.*f", prec, rounded);
+            if (std::wcscmp(buf, L"-0") == 0 || (buf[0] == L'-' && rounded == 0.0)) std::swprintf(buf, 128, L"%.*f", prec, 0.0);
+        } else if (unit == 1) {
+            std::swprintf(buf, 128, L"%.*E", prec, val);
+        } else {
+            return RTERROR;  // architectural, engineering and fractional units are not provided
+        }
+        std::wstring s = suppressZeros(buf, sysvarShort(L"DIMZIN", 0));
+        std::wcscpy(str, s.c_str());
+        return RTNORM;
+    });
 }
 
 extern "C" int acdbDisToF(const ACHAR* str, int unit, ads_real* v) {
-    if (!str || !v) return RTERROR;
-    if (unit == -1) unit = sysvarShort(L"LUNITS", 2);
-    if (unit != 1 && unit != 2) return RTERROR;
-    const wchar_t* p = str;
-    while (std::iswspace(*p)) ++p;
-    if (!*p) return RTERROR;
-    wchar_t* end = nullptr;
-    double value = std::wcstod(p, &end);
-    if (end == p) return RTERROR;
-    // wcstod accepts forms the editor does not: hexadecimal, infinities and NaN.
-    for (const wchar_t* q = p; q < end; ++q)
-        if (!(std::iswdigit(*q) || *q == L'.' || *q == L'+' || *q == L'-' || *q == L'e' || *q == L'E'))
-            return RTERROR;
-    while (std::iswspace(*end)) ++end;
-    if (*end) return RTERROR;
-    *v = value;
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        if (!str || !v) return RTERROR;
+        if (unit == -1) unit = sysvarShort(L"LUNITS", 2);
+        if (unit != 1 && unit != 2) return RTERROR;
+        const wchar_t* p = str;
+        while (std::iswspace(*p)) ++p;
+        if (!*p) return RTERROR;
+        wchar_t* end = nullptr;
+        double value = std::wcstod(p, &end);
+        if (end == p) return RTERROR;
+        // wcstod accepts forms the editor does not: hexadecimal, infinities and NaN.
+        for (const wchar_t* q = p; q < end; ++q)
+            if (!(std::iswdigit(*q) || *q == L'.' || *q == L'+' || *q == L'-' || *q == L'e' || *q == L'E'))
+                return RTERROR;
+        while (std::iswspace(*end)) ++end;
+        if (*end) return RTERROR;
+        *v = value;
+        return RTNORM;
+    });
 }

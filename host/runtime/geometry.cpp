@@ -3,6 +3,7 @@
 
 #include "acedads.h"
 #include "acutads.h"
+#include "host/boundary.h"
 #include "host/runtime/host.h"
 
 namespace {
@@ -104,40 +105,48 @@ bool frameOf(const resbuf* rb, Frame& f) {
 }  // namespace
 
 extern "C" ads_real acutAngle(const ads_point pt1, const ads_point pt2) {
-    double a = std::atan2(pt2[1] - pt1[1], pt2[0] - pt1[0]);
-    if (a < 0) a += kTwoPi;
-    if (a >= kTwoPi) a -= kTwoPi;
-    return a;
+    return host::guarded(__func__, 0.0, [&]() -> ads_real {
+        double a = std::atan2(pt2[1] - pt1[1], pt2[0] - pt1[0]);
+        if (a < 0) a += kTwoPi;
+        if (a >= kTwoPi) a -= kTwoPi;
+        return a;
+    });
 }
 
 extern "C" ads_real acutDistance(const ads_point pt1, const ads_point pt2) {
-    double dx = pt2[0] - pt1[0], dy = pt2[1] - pt1[1], dz = pt2[2] - pt1[2];
-    return std::sqrt(dx * dx + dy * dy + dz * dz);
+    return host::guarded(__func__, 0.0, [&]() -> ads_real {
+        double dx = pt2[0] - pt1[0], dy = pt2[1] - pt1[1], dz = pt2[2] - pt1[2];
+        return std::sqrt(dx * dx + dy * dy + dz * dz);
+    });
 }
 
 extern "C" void acutPolar(const ads_point pt, ads_real angle, ads_real dist, ads_point ptres) {
-    double x = pt[0] + dist * std::cos(angle);
-    double y = pt[1] + dist * std::sin(angle);
-    double z = pt[2];
-    ptres[0] = x;
-    ptres[1] = y;
-    ptres[2] = z;
+    host::guarded(__func__, [&] {
+        double x = pt[0] + dist * std::cos(angle);
+        double y = pt[1] + dist * std::sin(angle);
+        double z = pt[2];
+        ptres[0] = x;
+        ptres[1] = y;
+        ptres[2] = z;
+    });
 }
 
 extern "C" int acedTrans(const ads_point pt, const struct resbuf* from, const struct resbuf* to,
                          int disp, ads_point result) {
-    if (!host::Host::instance().hasDocument()) return RTERROR;
-    Frame a, b;
-    if (!frameOf(from, a) || !frameOf(to, b)) return RTERROR;
-    double world[3];
-    for (int i = 0; i < 3; ++i)
-        world[i] = pt[0] * a.x[i] + pt[1] * a.y[i] + pt[2] * a.z[i] + (disp ? 0.0 : a.origin[i]);
-    double rel[3];
-    for (int i = 0; i < 3; ++i) rel[i] = world[i] - (disp ? 0.0 : b.origin[i]);
-    double out[3];
-    out[0] = rel[0] * b.x[0] + rel[1] * b.x[1] + rel[2] * b.x[2];
-    out[1] = rel[0] * b.y[0] + rel[1] * b.y[1] + rel[2] * b.y[2];
-    out[2] = rel[0] * b.z[0] + rel[1] * b.z[1] + rel[2] * b.z[2];
-    for (int i = 0; i < 3; ++i) result[i] = out[i];
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        if (!host::Host::instance().hasDocument()) return RTERROR;
+        Frame a, b;
+        if (!frameOf(from, a) || !frameOf(to, b)) return RTERROR;
+        double world[3];
+        for (int i = 0; i < 3; ++i)
+            world[i] = pt[0] * a.x[i] + pt[1] * a.y[i] + pt[2] * a.z[i] + (disp ? 0.0 : a.origin[i]);
+        double rel[3];
+        for (int i = 0; i < 3; ++i) rel[i] = world[i] - (disp ? 0.0 : b.origin[i]);
+        double out[3];
+        out[0] = rel[0] * b.x[0] + rel[1] * b.x[1] + rel[2] * b.x[2];
+        out[1] = rel[0] * b.y[0] + rel[1] * b.y[1] + rel[2] * b.y[2];
+        out[2] = rel[0] * b.z[0] + rel[1] * b.z[1] + rel[2] * b.z[2];
+        for (int i = 0; i < 3; ++i) result[i] = out[i];
+        return RTNORM;
+    });
 }

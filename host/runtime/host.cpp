@@ -109,14 +109,16 @@ void Host::setCurrent(Document* doc) {
 
 void Host::makeCurrent(Document& doc) {
     setCurrent(&doc);
-    for (auto* r : std::vector(reactors_)) r->documentBecameCurrent(&doc);
+    for (auto* r : std::vector(reactors_))
+        guarded("AcApDocManagerReactor::documentBecameCurrent", [&] { r->documentBecameCurrent(&doc); });
 }
 
 Document& Host::openDocument(std::wstring fileName, std::unique_ptr<db::Database> database) {
     if (!database) database = std::make_unique<db::Database>();
     documents_.push_back(std::make_unique<Document>(std::move(fileName), std::move(database)));
     Document& doc = *documents_.back();
-    for (auto* r : std::vector(reactors_)) r->documentCreated(&doc);
+    for (auto* r : std::vector(reactors_))
+        guarded("AcApDocManagerReactor::documentCreated", [&] { r->documentCreated(&doc); });
     makeCurrent(doc);
     for (auto& m : modules_) sendMessage(*m, AcRx::kLoadDwgMsg, m->handle);
     return doc;
@@ -132,7 +134,8 @@ void Host::closeDocument(Document& doc) {
         CurrentDocumentScope closing(*this, &doc);
         if (wasCurrent) closing.restoreTo(nullptr);
         for (auto& m : modules_) sendMessage(*m, AcRx::kUnloadDwgMsg, m->handle);
-        for (auto* r : std::vector(reactors_)) r->documentToBeDestroyed(&doc);
+        for (auto* r : std::vector(reactors_))
+            guarded("AcApDocManagerReactor::documentToBeDestroyed", [&] { r->documentToBeDestroyed(&doc); });
     }
     auto it = std::find_if(documents_.begin(), documents_.end(),
                            [&](const auto& d) { return d.get() == &doc; });
@@ -149,6 +152,8 @@ void Host::sendMessage(Module& module, AcRx::AppMsgCode msg, void* pkt) {
     callEntry(module, msg, pkt);
 }
 
+// Module code called by the host is guarded as the host's own exports are: an exception out of
+// a module stops at the boundary.
 int Host::callEntry(Module& module, AcRx::AppMsgCode msg, void* pkt) {
     return guarded("acrxEntryPoint", static_cast<int>(AcRx::kRetError),
                    [&] { return static_cast<int>(module.entry(msg, pkt)); });

@@ -5,21 +5,31 @@
 #include "acdbads.h"
 #include "acedads.h"
 #include "acutads.h"
+#include "host/boundary.h"
 #include "host/output.h"
 
 extern "C" int acutPrintf(const ACHAR* format, ...) {
-    if (!format) return RTERROR;
     va_list args;
     va_start(args, format);
-    std::wstring text = host::formatWide(format, args);
+    int result = host::guarded(__func__, RTERROR, [&]() -> int {
+        if (!format) return RTERROR;
+        std::wstring text = host::formatWide(format, args);
+        host::emit(host::OutputKind::CommandLine, text);
+        return RTNORM;
+    });
     va_end(args);
-    host::emit(host::OutputKind::CommandLine, text);
-    return RTNORM;
+    return result;
 }
 
 extern "C" int acedAlert(const ACHAR* str) {
-    host::emit(host::OutputKind::Alert, str ? str : L"");
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        host::emit(host::OutputKind::Alert, str ? str : L"");
+        return RTNORM;
+    });
 }
 
-extern "C" void acdbFail(const ACHAR* str) { host::emit(host::OutputKind::Failure, str ? str : L""); }
+extern "C" void acdbFail(const ACHAR* str) {
+    host::guarded(__func__, [&] {
+        host::emit(host::OutputKind::Failure, str ? str : L"");
+    });
+}

@@ -2,6 +2,7 @@
 
 #include "acedads.h"
 #include "adsdlg.h"
+#include "host/boundary.h"
 #include "host/dcl/dcl.h"
 #include "host/session.h"
 
@@ -24,12 +25,16 @@ void clearScreenVectors() { vectors().clear(); }
 // Inside an open image tile the vector belongs to the dialog; elsewhere it is temporary
 // graphics on the screen.
 extern "C" int ads_vector_image(short x1, short y1, short x2, short y2, short color) {
-    if (host::dcl::recordImageVector(x1, y1, x2, y2, color)) return RTNORM;
-    host::vectors().push_back({x1, y1, x2, y2, color});
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        if (host::dcl::recordImageVector(x1, y1, x2, y2, color)) return RTNORM;
+        host::vectors().push_back({x1, y1, x2, y2, color});
+        return RTNORM;
+    });
 }
 
 extern "C" int acedRedraw(const ads_name ent, int) {
-    if (!ent) host::clearScreenVectors();
-    return RTNORM;
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        if (!ent) host::clearScreenVectors();
+        return RTNORM;
+    });
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/boundary.h"
 #include "host/text.h"
 #include "windows.h"
 
@@ -39,32 +40,36 @@ bool convert(const char* to, const char* from, const char* in, size_t inLen, std
 
 extern "C" int WideCharToMultiByte(UINT CodePage, DWORD, LPCWSTR lpWideCharStr, int cchWideChar,
                                    char* lpMultiByteStr, int cbMultiByte, const char*, BOOL* lpUsedDefaultChar) {
-    const char* charset = charsetOf(CodePage);
-    if (!charset || !lpWideCharStr) return 0;
-    size_t n = cchWideChar < 0 ? std::wcslen(lpWideCharStr) + 1 : static_cast<size_t>(cchWideChar);
-    std::string utf8 = host::toUtf8(std::wstring_view(lpWideCharStr, n));
-    std::string out;
-    if (!convert(charset, "UTF-8", utf8.data(), utf8.size(), out)) {
-        if (lpUsedDefaultChar) *lpUsedDefaultChar = TRUE;
-        return 0;
-    }
-    if (lpUsedDefaultChar) *lpUsedDefaultChar = FALSE;
-    if (cbMultiByte == 0) return static_cast<int>(out.size());
-    if (!lpMultiByteStr || static_cast<size_t>(cbMultiByte) < out.size()) return 0;
-    std::memcpy(lpMultiByteStr, out.data(), out.size());
-    return static_cast<int>(out.size());
+    return host::guarded(__func__, 0, [&]() -> int {
+        const char* charset = charsetOf(CodePage);
+        if (!charset || !lpWideCharStr) return 0;
+        size_t n = cchWideChar < 0 ? std::wcslen(lpWideCharStr) + 1 : static_cast<size_t>(cchWideChar);
+        std::string utf8 = host::toUtf8(std::wstring_view(lpWideCharStr, n));
+        std::string out;
+        if (!convert(charset, "UTF-8", utf8.data(), utf8.size(), out)) {
+            if (lpUsedDefaultChar) *lpUsedDefaultChar = TRUE;
+            return 0;
+        }
+        if (lpUsedDefaultChar) *lpUsedDefaultChar = FALSE;
+        if (cbMultiByte == 0) return static_cast<int>(out.size());
+        if (!lpMultiByteStr || static_cast<size_t>(cbMultiByte) < out.size()) return 0;
+        std::memcpy(lpMultiByteStr, out.data(), out.size());
+        return static_cast<int>(out.size());
+    });
 }
 
 extern "C" int MultiByteToWideChar(UINT CodePage, DWORD, const char* lpMultiByteStr, int cbMultiByte,
                                    LPWSTR lpWideCharStr, int cchWideChar) {
-    const char* charset = charsetOf(CodePage);
-    if (!charset || !lpMultiByteStr) return 0;
-    size_t n = cbMultiByte < 0 ? std::strlen(lpMultiByteStr) + 1 : static_cast<size_t>(cbMultiByte);
-    std::string utf8;
-    if (!convert("UTF-8", charset, lpMultiByteStr, n, utf8)) return 0;
-    std::wstring wide = host::fromUtf8(utf8);
-    if (cchWideChar == 0) return static_cast<int>(wide.size());
-    if (!lpWideCharStr || static_cast<size_t>(cchWideChar) < wide.size()) return 0;
-    std::wmemcpy(lpWideCharStr, wide.data(), wide.size());
-    return static_cast<int>(wide.size());
+    return host::guarded(__func__, 0, [&]() -> int {
+        const char* charset = charsetOf(CodePage);
+        if (!charset || !lpMultiByteStr) return 0;
+        size_t n = cbMultiByte < 0 ? std::strlen(lpMultiByteStr) + 1 : static_cast<size_t>(cbMultiByte);
+        std::string utf8;
+        if (!convert("UTF-8", charset, lpMultiByteStr, n, utf8)) return 0;
+        std::wstring wide = host::fromUtf8(utf8);
+        if (cchWideChar == 0) return static_cast<int>(wide.size());
+        if (!lpWideCharStr || static_cast<size_t>(cchWideChar) < wide.size()) return 0;
+        std::wmemcpy(lpWideCharStr, wide.data(), wide.size());
+        return static_cast<int>(wide.size());
+    });
 }

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <mutex>
 
+#include "host/boundary.h"
 #include "host/session.h"
 #include "host/text.h"
 #include "windows.h"
@@ -59,46 +60,52 @@ std::optional<std::wstring> registryValue(std::wstring_view key, std::wstring_vi
 using host::win::OpenKey;
 
 extern "C" LSTATUS RegOpenKeyExW(HKEY hKey, LPCWSTR lpSubKey, DWORD, REGSAM, PHKEY phkResult) {
-    if (!phkResult) return ERROR_INVALID_HANDLE;
-    *phkResult = nullptr;
-    std::wstring base;
-    if (hKey == HKEY_LOCAL_MACHINE) base = L"";
-    else return ERROR_FILE_NOT_FOUND;  // only the machine hive holds values here
-    std::wstring path = host::win::normaliseKey(base + (lpSubKey ? lpSubKey : L""));
-    {
-        std::lock_guard lock(host::win::store().mutex);
-        if (!host::win::keyExists(path)) return ERROR_FILE_NOT_FOUND;
-    }
-    *phkResult = reinterpret_cast<HKEY>(new OpenKey{path});
-    return ERROR_SUCCESS;
+    return host::guarded(__func__, ERROR_OUTOFMEMORY, [&]() -> LSTATUS {
+        if (!phkResult) return ERROR_INVALID_HANDLE;
+        *phkResult = nullptr;
+        std::wstring base;
+        if (hKey == HKEY_LOCAL_MACHINE) base = L"";
+        else return ERROR_FILE_NOT_FOUND;  // only the machine hive holds values here
+        std::wstring path = host::win::normaliseKey(base + (lpSubKey ? lpSubKey : L""));
+        {
+            std::lock_guard lock(host::win::store().mutex);
+            if (!host::win::keyExists(path)) return ERROR_FILE_NOT_FOUND;
+        }
+        *phkResult = reinterpret_cast<HKEY>(new OpenKey{path});
+        return ERROR_SUCCESS;
+    });
 }
 
 extern "C" LSTATUS RegQueryValueExW(HKEY hKey, LPCWSTR lpValueName, LPDWORD, LPDWORD lpType,
                                     LPBYTE lpData, LPDWORD lpcbData) {
-    auto* key = reinterpret_cast<OpenKey*>(hKey);
-    if (!key) return ERROR_INVALID_HANDLE;
-    auto value = host::win::registryValue(key->path, lpValueName ? lpValueName : L"");
-    if (!value) return ERROR_FILE_NOT_FOUND;
-    if (lpType) *lpType = REG_SZ;
-    DWORD needed = static_cast<DWORD>((value->size() + 1) * sizeof(WCHAR));
-    if (!lpcbData) return lpData ? ERROR_INVALID_HANDLE : ERROR_SUCCESS;
-    if (!lpData) {
+    return host::guarded(__func__, ERROR_OUTOFMEMORY, [&]() -> LSTATUS {
+        auto* key = reinterpret_cast<OpenKey*>(hKey);
+        if (!key) return ERROR_INVALID_HANDLE;
+        auto value = host::win::registryValue(key->path, lpValueName ? lpValueName : L"");
+        if (!value) return ERROR_FILE_NOT_FOUND;
+        if (lpType) *lpType = REG_SZ;
+        DWORD needed = static_cast<DWORD>((value->size() + 1) * sizeof(WCHAR));
+        if (!lpcbData) return lpData ? ERROR_INVALID_HANDLE : ERROR_SUCCESS;
+        if (!lpData) {
+            *lpcbData = needed;
+            return ERROR_SUCCESS;
+        }
+        if (*lpcbData < needed) {
+            *lpcbData = needed;
+            return ERROR_MORE_DATA;
+        }
+        std::memcpy(lpData, value->c_str(), needed);
         *lpcbData = needed;
         return ERROR_SUCCESS;
-    }
-    if (*lpcbData < needed) {
-        *lpcbData = needed;
-        return ERROR_MORE_DATA;
-    }
-    std::memcpy(lpData, value->c_str(), needed);
-    *lpcbData = needed;
-    return ERROR_SUCCESS;
+    });
 }
 
 extern "C" LSTATUS RegCloseKey(HKEY hKey) {
-    if (!hKey) return ERROR_INVALID_HANDLE;
-    auto value = reinterpret_cast<uintptr_t>(hKey);
-    if (value >= 0x80000000u && value <= 0x8000000Fu) return ERROR_SUCCESS;  // predefined keys
-    delete reinterpret_cast<OpenKey*>(hKey);
-    return ERROR_SUCCESS;
+    return host::guarded(__func__, ERROR_OUTOFMEMORY, [&]() -> LSTATUS {
+        if (!hKey) return ERROR_INVALID_HANDLE;
+        auto value = reinterpret_cast<uintptr_t>(hKey);
+        if (value >= 0x80000000u && value <= 0x8000000Fu) return ERROR_SUCCESS;  // predefined keys
+        delete reinterpret_cast<OpenKey*>(hKey);
+        return ERROR_SUCCESS;
+    });
 }

@@ -9,6 +9,8 @@
 #include <mutex>
 #include <thread>
 
+#include "host/boundary.h"
+
 namespace host::win {
 namespace {
 
@@ -28,8 +30,11 @@ struct Registry {
     std::atomic<size_t> runningThreads{0};
 };
 
+// The one state of the host kept for the whole process rather than in the session: threads a
+// module starts poll these windows and may outlive both the session and main, so the registry
+// is never destroyed. Its windows are those of open dialogs, which close with them.
 Registry& reg() {
-    static auto* r = new Registry;  // never destroyed: worker threads may outlive main
+    static auto* r = new Registry;
     return *r;
 }
 
@@ -113,131 +118,157 @@ size_t runningThreadCount() { return reg().runningThreads.load(); }
 using namespace host::win;
 
 extern "C" HWND FindWindowW(LPCWSTR lpClassName, LPCWSTR lpWindowName) {
-    Registry& r = reg();
-    HWND found = nullptr;
-    {
-        std::lock_guard lock(r.mutex);
-        for (auto& [k, w] : r.windows) {
-            if (w.parent) continue;
-            if (lpClassName && w.className != lpClassName) continue;
-            if (lpWindowName && w.title != lpWindowName) continue;
-            found = handle(k);
-            break;
+    return host::guarded(__func__, nullptr, [&]() -> HWND {
+        Registry& r = reg();
+        HWND found = nullptr;
+        {
+            std::lock_guard lock(r.mutex);
+            for (auto& [k, w] : r.windows) {
+                if (w.parent) continue;
+                if (lpClassName && w.className != lpClassName) continue;
+                if (lpWindowName && w.title != lpWindowName) continue;
+                found = handle(k);
+                break;
+            }
         }
-    }
-    // Callers poll this in a loop; let the window's own thread run.
-    if (!found) std::this_thread::yield();
-    return found;
+        // Callers poll this in a loop; let the window's own thread run.
+        if (!found) std::this_thread::yield();
+        return found;
+    });
 }
 
 extern "C" BOOL EnumChildWindows(HWND hWndParent, WNDENUMPROC lpEnumFunc, LPARAM lParam) {
-    if (!lpEnumFunc) return FALSE;
-    for (HWND child : childWindows(hWndParent))
-        if (!lpEnumFunc(child, lParam)) break;
-    return TRUE;
+    return host::guarded(__func__, FALSE, [&]() -> BOOL {
+        if (!lpEnumFunc) return FALSE;
+        for (HWND child : childWindows(hWndParent))
+            if (!lpEnumFunc(child, lParam)) break;
+        return TRUE;
+    });
 }
 
 extern "C" LRESULT SendMessageW(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM) {
-    Registry& r = reg();
-    std::lock_guard lock(r.mutex);
-    auto it = r.windows.find(key(hWnd));
-    if (it == r.windows.end()) return 0;
-    switch (Msg) {
-    case WM_SETFONT: it->second.font = reinterpret_cast<HFONT>(wParam); return 0;
-    case WM_GETFONT: return reinterpret_cast<LRESULT>(it->second.font);
-    default: return 0;
-    }
+    return host::guarded(__func__, 0, [&]() -> LRESULT {
+        Registry& r = reg();
+        std::lock_guard lock(r.mutex);
+        auto it = r.windows.find(key(hWnd));
+        if (it == r.windows.end()) return 0;
+        switch (Msg) {
+        case WM_SETFONT: it->second.font = reinterpret_cast<HFONT>(wParam); return 0;
+        case WM_GETFONT: return reinterpret_cast<LRESULT>(it->second.font);
+        default: return 0;
+        }
+    });
 }
 
 extern "C" BOOL IsWindow(HWND hWnd) {
-    Registry& r = reg();
-    std::lock_guard lock(r.mutex);
-    return r.windows.count(key(hWnd)) ? TRUE : FALSE;
+    return host::guarded(__func__, FALSE, [&]() -> BOOL {
+        Registry& r = reg();
+        std::lock_guard lock(r.mutex);
+        return r.windows.count(key(hWnd)) ? TRUE : FALSE;
+    });
 }
 
 extern "C" BOOL DestroyWindow(HWND hWnd) {
-    Registry& r = reg();
-    std::lock_guard lock(r.mutex);
-    uintptr_t k = key(hWnd);
-    if (!r.windows.count(k)) return FALSE;
-    std::erase_if(r.windows, [&](auto& kv) { return kv.first == k || isDescendant(r, kv.first, k); });
-    return TRUE;
+    return host::guarded(__func__, FALSE, [&]() -> BOOL {
+        Registry& r = reg();
+        std::lock_guard lock(r.mutex);
+        uintptr_t k = key(hWnd);
+        if (!r.windows.count(k)) return FALSE;
+        std::erase_if(r.windows, [&](auto& kv) { return kv.first == k || isDescendant(r, kv.first, k); });
+        return TRUE;
+    });
 }
 
 extern "C" int GetWindowTextW(HWND hWnd, LPWSTR lpString, int nMaxCount) {
-    if (!lpString || nMaxCount <= 0) return 0;
-    std::wstring title = windowTitle(hWnd);
-    size_t n = std::min(title.size(), static_cast<size_t>(nMaxCount - 1));
-    title.copy(lpString, n);
-    lpString[n] = L'\0';
-    return static_cast<int>(n);
+    return host::guarded(__func__, 0, [&]() -> int {
+        if (!lpString || nMaxCount <= 0) return 0;
+        std::wstring title = windowTitle(hWnd);
+        size_t n = std::min(title.size(), static_cast<size_t>(nMaxCount - 1));
+        title.copy(lpString, n);
+        lpString[n] = L'\0';
+        return static_cast<int>(n);
+    });
 }
 
 extern "C" BOOL SetWindowTextW(HWND hWnd, LPCWSTR lpString) {
-    Registry& r = reg();
-    std::lock_guard lock(r.mutex);
-    auto it = r.windows.find(key(hWnd));
-    if (it == r.windows.end()) return FALSE;
-    it->second.title = lpString ? lpString : L"";
-    return TRUE;
+    return host::guarded(__func__, FALSE, [&]() -> BOOL {
+        Registry& r = reg();
+        std::lock_guard lock(r.mutex);
+        auto it = r.windows.find(key(hWnd));
+        if (it == r.windows.end()) return FALSE;
+        it->second.title = lpString ? lpString : L"";
+        return TRUE;
+    });
 }
 
 extern "C" HFONT CreateFontW(int cHeight, int cWidth, int cEscapement, int cOrientation, int cWeight,
                              DWORD bItalic, DWORD bUnderline, DWORD bStrikeOut, DWORD iCharSet,
                              DWORD iOutPrecision, DWORD iClipPrecision, DWORD iQuality,
                              DWORD iPitchAndFamily, LPCWSTR pszFaceName) {
-    Registry& r = reg();
-    std::lock_guard lock(r.mutex);
-    uintptr_t k = r.nextFont++;
-    r.fonts[k] = FontInfo{cHeight, cWidth, cEscapement, cOrientation, cWeight, bItalic, bUnderline,
-                          bStrikeOut, iCharSet, iOutPrecision, iClipPrecision, iQuality,
-                          iPitchAndFamily, pszFaceName ? pszFaceName : L""};
-    return reinterpret_cast<HFONT>(k);
+    return host::guarded(__func__, nullptr, [&]() -> HFONT {
+        Registry& r = reg();
+        std::lock_guard lock(r.mutex);
+        uintptr_t k = r.nextFont++;
+        r.fonts[k] = FontInfo{cHeight, cWidth, cEscapement, cOrientation, cWeight, bItalic, bUnderline,
+                              bStrikeOut, iCharSet, iOutPrecision, iClipPrecision, iQuality,
+                              iPitchAndFamily, pszFaceName ? pszFaceName : L""};
+        return reinterpret_cast<HFONT>(k);
+    });
 }
 
 extern "C" BOOL DeleteObject(HGDIOBJ ho) {
-    Registry& r = reg();
-    std::lock_guard lock(r.mutex);
-    return r.fonts.erase(reinterpret_cast<uintptr_t>(ho)) ? TRUE : FALSE;
+    return host::guarded(__func__, FALSE, [&]() -> BOOL {
+        Registry& r = reg();
+        std::lock_guard lock(r.mutex);
+        return r.fonts.erase(reinterpret_cast<uintptr_t>(ho)) ? TRUE : FALSE;
+    });
 }
 
 extern "C" HANDLE CreateThread(void*, size_t, LPTHREAD_START_ROUTINE lpStartAddress, LPVOID lpParameter,
                                DWORD, LPDWORD lpThreadId) {
-    if (!lpStartAddress) return nullptr;
-    auto state = std::make_shared<ThreadHandle>();
-    auto* held = new std::shared_ptr<ThreadHandle>(state);
-    reg().runningThreads++;
-    std::thread([state, lpStartAddress, lpParameter] {
-        lpStartAddress(lpParameter);
-        {
-            std::lock_guard lock(state->mutex);
-            state->finished = true;
-        }
-        reg().runningThreads--;
-        state->done.notify_all();
-    }).detach();
-    if (lpThreadId) *lpThreadId = 0;
-    return held;
+    return host::guarded(__func__, nullptr, [&]() -> HANDLE {
+        if (!lpStartAddress) return nullptr;
+        auto state = std::make_shared<ThreadHandle>();
+        auto* held = new std::shared_ptr<ThreadHandle>(state);
+        reg().runningThreads++;
+        std::thread([state, lpStartAddress, lpParameter] {
+            lpStartAddress(lpParameter);
+            {
+                std::lock_guard lock(state->mutex);
+                state->finished = true;
+            }
+            reg().runningThreads--;
+            state->done.notify_all();
+        }).detach();
+        if (lpThreadId) *lpThreadId = 0;
+        return held;
+    });
 }
 
 extern "C" DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds) {
-    auto* held = static_cast<std::shared_ptr<ThreadHandle>*>(hHandle);
-    if (!held) return WAIT_TIMEOUT;
-    ThreadHandle& t = **held;
-    std::unique_lock lock(t.mutex);
-    if (dwMilliseconds == INFINITE) {
-        t.done.wait(lock, [&] { return t.finished; });
-        return WAIT_OBJECT_0;
-    }
-    bool ok = t.done.wait_for(lock, std::chrono::milliseconds(dwMilliseconds), [&] { return t.finished; });
-    return ok ? WAIT_OBJECT_0 : WAIT_TIMEOUT;
+    return host::guarded(__func__, WAIT_FAILED, [&]() -> DWORD {
+        auto* held = static_cast<std::shared_ptr<ThreadHandle>*>(hHandle);
+        if (!held) return WAIT_TIMEOUT;
+        ThreadHandle& t = **held;
+        std::unique_lock lock(t.mutex);
+        if (dwMilliseconds == INFINITE) {
+            t.done.wait(lock, [&] { return t.finished; });
+            return WAIT_OBJECT_0;
+        }
+        bool ok = t.done.wait_for(lock, std::chrono::milliseconds(dwMilliseconds), [&] { return t.finished; });
+        return ok ? WAIT_OBJECT_0 : WAIT_TIMEOUT;
+    });
 }
 
 extern "C" BOOL CloseHandle(HANDLE hObject) {
-    delete static_cast<std::shared_ptr<ThreadHandle>*>(hObject);
-    return TRUE;
+    return host::guarded(__func__, FALSE, [&]() -> BOOL {
+        delete static_cast<std::shared_ptr<ThreadHandle>*>(hObject);
+        return TRUE;
+    });
 }
 
 extern "C" void Sleep(DWORD dwMilliseconds) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(dwMilliseconds));
+    host::guarded(__func__, [&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(dwMilliseconds));
+    });
 }

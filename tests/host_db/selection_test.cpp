@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <set>
 
-#include "host/runtime/input.h"
 #include "host/output.h"
+#include "host/runtime/input.h"
 #include "tests/host_db/db_fixture.h"
 
 namespace dbtest {

@@ -1,13 +1,14 @@
 #!/usr/bin/python3
-"""Checks the include rules the compiler's include paths cannot see.
+"""Checks the rules of the host's code that the compiler does not.
 
-The host's folders are layers (host/README.md gives the order): a host file may include host
-headers of its own folder and of folders below it, never of a folder above. And no include on
-either side of the module/host wall climbs out of its folder with "../", which would reach
-past the include roots the build gives each side.
+- The host's folders are layers (host/README.md gives the order): a host file may include host
+  headers of its own folder and of folders below it, never of a folder above.
+- No include on either side of the module/host wall climbs out of its folder with "../", which
+  would reach past the include roots the build gives each side.
+- Every C function the host exports runs its body through host::guarded (host/boundary.h), so
+  that no exception reaches a module.
 
-Usage: check_host_layers.py PROJECT_ROOT. Prints each offending include and exits 1 when there
-is one."""
+Usage: check_host_rules.py PROJECT_ROOT. Prints each breach and exits 1 when there is one."""
 import pathlib
 import re
 import sys
@@ -16,6 +17,8 @@ import sys
 LAYERS = ["", "win", "db", "dcl", "runtime", "commands", "lisp", "console"]
 MODULE_FOLDERS = ["frame", "psychro", "duct", "coil", "drawing", "units"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
+# An exported definition and the first lines of its body.
+EXPORTED = re.compile(r'^extern "C" [^;{]*?\b(\w+)\([^;{]*?\)\s*\{\n((?:.*\n){1,3})', re.MULTILINE)
 
 
 def layer_of(relative):
@@ -54,6 +57,17 @@ def host_problems(host_dir):
     return found
 
 
+def unguarded_exports(host_dir):
+    found = []
+    for path in sources(host_dir):
+        text = path.read_text(encoding="utf-8")
+        for match in EXPORTED.finditer(text):
+            if "guarded(" not in match.group(2):
+                line = text.count("\n", 0, match.start()) + 1
+                found.append(f"{path}:{line}: exported {match.group(1)} does not run its body through host::guarded")
+    return found
+
+
 def module_problems(root):
     found = []
     for folder in MODULE_FOLDERS:
@@ -69,7 +83,7 @@ def main():
         print(__doc__, file=sys.stderr)
         return 2
     root = pathlib.Path(sys.argv[1])
-    found = host_problems(root / "host") + module_problems(root)
+    found = host_problems(root / "host") + module_problems(root) + unguarded_exports(root / "host")
     for problem in found:
         print(problem)
     return 1 if found else 0
