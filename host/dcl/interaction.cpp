@@ -2,6 +2,7 @@
 
 #include <cwchar>
 
+#include "host/boundary.h"
 #include "host/dcl/lisp_actions.h"
 #include "host/dcl/runtime.h"
 #include "host/dcl/tile_values.h"
@@ -20,7 +21,8 @@ void call(Dialog& dialog, CLIENTFUNC fn, int index, int reason) {
     packet.value = value.data();
     packet.client_data = t.clientData;
     packet.reason = reason;
-    fn(&packet);
+    // The callback is module code: an exception out of it stops here.
+    guarded("CLIENTFUNC", [&] { fn(&packet); });
 }
 
 bool ended(const Dialog& dialog) { return dialog.done || Runtime::instance().terminating(); }

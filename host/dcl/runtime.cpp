@@ -68,25 +68,45 @@ int Runtime::findTile(Dialog* dialog, const ACHAR* key) {
     return dialog->find(key);
 }
 
+// A started dialog on the stack of running dialogs. On every path it leaves the stack and is
+// discarded; the last one to leave ends the dialog state of the editor (CMDACTIVE).
+class Runtime::RunningDialog {
+public:
+    RunningDialog(Runtime& runtime, Dialog& dialog) : runtime_(runtime), dialog_(dialog) {
+        runtime_.running_.push_back(&dialog_);
+        runtime_.markActive(true);
+    }
+    ~RunningDialog() {
+        runtime_.running_.pop_back();
+        runtime_.discard(dialog_);
+        if (runtime_.running_.empty()) {
+            runtime_.terminating_ = false;
+            runtime_.markActive(false);
+        }
+    }
+    RunningDialog(const RunningDialog&) = delete;
+    RunningDialog& operator=(const RunningDialog&) = delete;
+
+private:
+    Runtime& runtime_;
+    Dialog& dialog_;
+};
+
 int Runtime::run(Dialog& d) {
     d.started = true;
     d.depth = static_cast<int>(running_.size()) + 1;
-    running_.push_back(&d);
-    markActive(true);
-    if (!d.done && !terminating_) applyScript(d);
-    if (!d.done && !terminating_) {  // the script ran out: the dialog is closed unanswered
-        d.done = true;
-        d.status = DLGCANCEL;
-        d.cancelledByHost = true;
-    }
-    if (terminating_) d.status = DLGALLDONE;
-    int status = d.status;
-    history_.push_back(d.record());
-    running_.pop_back();
-    discard(d);
-    if (running_.empty()) {
-        terminating_ = false;
-        markActive(false);
+    int status = DLGCANCEL;
+    {
+        RunningDialog running(*this, d);
+        if (!d.done && !terminating_) applyScript(d);
+        if (!d.done && !terminating_) {  // the script ran out: the dialog is closed unanswered
+            d.done = true;
+            d.status = DLGCANCEL;
+            d.cancelledByHost = true;
+        }
+        if (terminating_) d.status = DLGALLDONE;
+        status = d.status;
+        history_.push_back(d.record());
     }
     if (SysVars* vars = documentVariables()) vars->setShort(L"DIASTAT", static_cast<short>(status < 0 ? 0 : status), true);
     return status;

@@ -56,6 +56,7 @@ public:
 
 private:
     friend class host::PartStore;
+    class RunningDialog;
     Runtime() = default;
     void discard(Dialog& dialog);
     void markActive(bool active);

@@ -99,13 +99,18 @@ void addControl(Interpreter& in) {
     in.define(L"FOREACH", [](Interpreter& i, const Args& a) {
         if (a.size() < 2) fail(L"too few arguments");
         if (!a[0] || a[0]->kind != Kind::Sym) badArgument(L"symbolp", a[0]);
-        ValuePtr saved = i.symbolValue(a[0]->text);
+        // The loop variable gets its value back on every way out, an error included.
+        struct Restore {
+            Interpreter& in;
+            const std::wstring& name;
+            ValuePtr saved;
+            ~Restore() { in.setSymbol(name, saved); }
+        } restore{i, a[0]->text, i.symbolValue(a[0]->text)};
         ValuePtr r = nil();
         for (auto& item : listItems(i.eval(a[1]))) {
             i.setSymbol(a[0]->text, item);
             r = progn(i, a, 2);
         }
-        i.setSymbol(a[0]->text, saved);
         return r;
     }, true);
     in.define(L"AND", [](Interpreter& i, const Args& a) {

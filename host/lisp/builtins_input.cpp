@@ -37,6 +37,17 @@ ValuePtr answer(int status, const ValuePtr& value) {
 
 ValuePtr pointValue(const ads_point p) { return makeList({makeReal(p[0]), makeReal(p[1]), makeReal(p[2])}); }
 
+// (getdist [pt] [msg]) and (getangle [pt] [msg]): a real shown from an optional base point.
+using RealFromBase = int (*)(const ads_point pt, const ACHAR* prompt, ads_real* result);
+ValuePtr realFromBase(const Args& a, RealFromBase request) {
+    expectCount(a, 0, 2);
+    ads_point base;
+    bool hasBase = basePoint(a, base);
+    ads_real v = 0;
+    int status = request(hasBase ? base : nullptr, promptArg(a, hasBase ? 1 : 0), &v);
+    return answer(status, makeReal(v));
+}
+
 }  // namespace
 
 void addInputBuiltins(Interpreter& in) {
@@ -63,22 +74,8 @@ void addInputBuiltins(Interpreter& in) {
         int status = acedGetInt(promptArg(a, 0), &v);
         return answer(status, makeInt(v));
     });
-    in.define(L"GETDIST", [](Interpreter&, const Args& a) {
-        expectCount(a, 0, 2);
-        ads_point base;
-        bool hasBase = basePoint(a, base);
-        ads_real v = 0;
-        int status = acedGetDist(hasBase ? base : nullptr, promptArg(a, hasBase ? 1 : 0), &v);
-        return answer(status, makeReal(v));
-    });
-    in.define(L"GETANGLE", [](Interpreter&, const Args& a) {
-        expectCount(a, 0, 2);
-        ads_point base;
-        bool hasBase = basePoint(a, base);
-        ads_real v = 0;
-        int status = acedGetAngle(hasBase ? base : nullptr, promptArg(a, hasBase ? 1 : 0), &v);
-        return answer(status, makeReal(v));
-    });
+    in.define(L"GETDIST", [](Interpreter&, const Args& a) { return realFromBase(a, acedGetDist); });
+    in.define(L"GETANGLE", [](Interpreter&, const Args& a) { return realFromBase(a, acedGetAngle); });
     in.define(L"GETCORNER", [](Interpreter&, const Args& a) {
         expectCount(a, 1, 2);
         ads_point base, corner;

@@ -215,11 +215,17 @@ int ask(const Asking& a, Read read) {
     }
 }
 
-// The second point of a distance or angle shown by two points.
-std::optional<std::array<double, 3>> secondPoint() {
+using Point = std::array<double, 3>;
+
+// The two points of a distance or an angle shown by points: the base point and the reply, or
+// without a base point the reply and a second point, the next reply.
+std::optional<std::pair<Point, Point>> shownByPoints(const ads_point base, const Point& replied) {
+    if (base) return std::pair{Point{base[0], base[1], base[2]}, replied};
     acutPrintf(L"\nSpecify second point: ");
     std::optional<TypedReply> reply = nextReply();
-    return reply ? pointOf(*reply) : std::nullopt;
+    std::optional<Point> second = reply ? pointOf(*reply) : std::nullopt;
+    if (!second) return std::nullopt;
+    return std::pair{replied, *second};
 }
 
 // Degrees, grads or radians as AUNITS says, counter-clockwise unless ANGDIR says otherwise.
@@ -299,12 +305,11 @@ extern "C" int acedGetDist(const ads_point pt, const ACHAR* prompt, ads_real* re
             if (!v) {
                 auto p = host::pointOf(r);
                 if (!p) return host::otherKind();
-                std::optional<std::array<double, 3>> from;
-                if (pt) from = std::array<double, 3>{pt[0], pt[1], pt[2]};
-                else from = std::exchange(p, host::secondPoint());
-                if (!p) return host::rejected(host::kRequiresDistance);
-                double dz = flags & RSG_2D ? 0.0 : (*p)[2] - (*from)[2];
-                v = std::hypot((*p)[0] - (*from)[0], (*p)[1] - (*from)[1], dz);
+                auto points = host::shownByPoints(pt, *p);
+                if (!points) return host::rejected(host::kRequiresDistance);
+                auto& [from, to] = *points;
+                double dz = flags & RSG_2D ? 0.0 : to[2] - from[2];
+                v = std::hypot(to[0] - from[0], to[1] - from[1], dz);
             }
             if (auto problem = host::rangeProblem(*v, flags)) return host::rejected(*problem);
             *result = *v;
@@ -325,12 +330,11 @@ extern "C" int acedGetAngle(const ads_point pt, const ACHAR* prompt, ads_real* r
             }
             auto p = host::pointOf(r);
             if (!p) return host::otherKind();
-            std::optional<std::array<double, 3>> from;
-            if (pt) from = std::array<double, 3>{pt[0], pt[1], pt[2]};
-            else from = std::exchange(p, host::secondPoint());
-            if (!p) return host::rejected(host::kRequiresAngle);
+            auto points = host::shownByPoints(pt, *p);
+            if (!points) return host::rejected(host::kRequiresAngle);
+            auto& [from, to] = *points;
             // Points show the angle itself; it is measured from ANGBASE.
-            double direction = std::atan2((*p)[1] - (*from)[1], (*p)[0] - (*from)[0]);
+            double direction = std::atan2(to[1] - from[1], to[0] - from[0]);
             *result = host::normalised(direction - host::realVariable(L"ANGBASE"));
             return host::accepted();
         });

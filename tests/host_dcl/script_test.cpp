@@ -1,5 +1,6 @@
 // Headless running: scripted actions applied in order, skipped with a message when they do not
 // fit, the dialog cancelled when they run out; nested dialogs, each a window.
+#include <stdexcept>
 #include <vector>
 
 #include "dcl_fixture.h"
@@ -185,6 +186,24 @@ TEST_F(DclScript, SetTileOnTheTitleAndTextRetitlesWindows) {
     EXPECT_EQ(titles.front(), L"done");
     start(h);
     EXPECT_EQ(IsWindow(w), FALSE);
+}
+
+// A callback of the module that throws: it stops at the boundary, the script goes on, and the
+// dialog state is the editor's own again once the dialog has ended.
+TEST_F(DclScript, ACallbackThatThrowsLeavesTheDialogStateAsItWas) {
+    host::OutputCapture capture;
+    ads_hdlg h = open(id, L"main_dlg");
+    handler(0) = [](ads_callback_packet*) { throw std::runtime_error("callback failed"); };
+    ads_action_tile(h, L"plain", forward<0>);
+    host::queueDialogActions(L"main_dlg", {press(L"plain"), set(L"val", L"after")});
+    EXPECT_EQ(start(h), DLGCANCEL);
+    EXPECT_NE(capture.commandLine().find(L"Host error in CLIENTFUNC: callback failed"), std::wstring::npos);
+    EXPECT_EQ(host::dcl::lastDialog(L"main_dlg")->value(L"val"), L"after") << "the script went on";
+    EXPECT_FALSE(host::dcl::dialogActive());
+    EXPECT_TRUE(host::dcl::openDialogNames().empty());
+
+    host::queueDialogActions(L"main_dlg", {press(L"accept")});
+    EXPECT_EQ(start(open(id, L"main_dlg")), DLGOK) << "the next dialog runs as usual";
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // airstate: solves one humid-air state from the command line with the property library.
 
+#include <clocale>
 #include <cstdio>
 #include <string>
 
@@ -79,6 +80,7 @@ AirState InitialState(const Request& request) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    std::setlocale(LC_CTYPE, "C.UTF-8");  // the report writes the alerts' text as UTF-8
     Request request;
     std::string problem;
     if (!ParseCommandLine(argc, argv, &request, &problem)) return UsageError(problem);

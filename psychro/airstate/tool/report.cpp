@@ -1,33 +1,27 @@
 #include "psychro/airstate/tool/report.h"
 
+#include <climits>
 #include <cmath>
+#include <cwchar>
 
 #include "adscodes.h"
 
 namespace airstate_tool {
 namespace {
 
-// The alert texts are wide; the terminal and JSON take UTF-8. A value that is no Unicode
-// scalar becomes U+FFFD.
+// The alert texts are wide; the terminal and JSON take the C library's multibyte form, which
+// main sets to UTF-8. A character it cannot write becomes U+FFFD.
 std::string Utf8(std::wstring_view text) {
     std::string out;
-    for (wchar_t wc : text) {
-        auto c = static_cast<unsigned long>(wc);
-        if (c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) c = 0xFFFD;
-        if (c < 0x80) {
-            out += static_cast<char>(c);
-        } else if (c < 0x800) {
-            out += static_cast<char>(0xC0 | (c >> 6));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            out += static_cast<char>(0xE0 | (c >> 12));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
+    std::mbstate_t state{};
+    char bytes[MB_LEN_MAX];
+    for (wchar_t c : text) {
+        size_t n = std::wcrtomb(bytes, c, &state);
+        if (n == static_cast<size_t>(-1)) {
+            out += "\xEF\xBF\xBD";
+            state = {};
         } else {
-            out += static_cast<char>(0xF0 | (c >> 18));
-            out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
+            out.append(bytes, n);
         }
     }
     return out;
