@@ -7,7 +7,6 @@
 #include <string>
 
 #include "host/runtime/input.h"
-#include "host/runtime/keywords.h"
 
 namespace host {
 

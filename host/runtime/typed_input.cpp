@@ -20,6 +20,7 @@
 #include "host/db/sysvars.h"
 #include "host/dcl/dcl.h"
 #include "host/runtime/input_state.h"
+#include "host/runtime/keywords.h"
 #include "host/runtime/typed_reply.h"
 
 namespace host {
