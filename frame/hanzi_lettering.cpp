@@ -10,9 +10,9 @@
 #include "acutads.h"
 #include "adsdlg.h"
 #include "frame/args.h"
-#include "frame/handlers.h"
+#include "frame/file_handle.h"
+#include "frame/frame_handlers.h"
 #include "frame/paths.h"
-#include "wchar_io.h"
 #include "windows.h"
 
 namespace vrn2 {
@@ -25,13 +25,12 @@ long roundHalfAway(double v) { return std::lround(v); }
 // Reads the 32 bytes of one glyph; a glyph that cannot be read draws nothing.
 void readGlyph(int zone, int position, unsigned char glyph[32]) {
     std::memset(glyph, 0, 32);
-    FILE* f = _wfopen(suitePath(L"system\\cclib").c_str(), L"rb");
-    if (!f) return;
+    FileHandle font(suitePath(L"system\\cclib").c_str(), L"rb");
+    if (!font) return;
     long offset = glyphOffset(zone, position);
-    if (offset >= 0 && std::fseek(f, offset, SEEK_SET) == 0) {
-        if (std::fread(glyph, 1, 32, f) != 32) std::memset(glyph, 0, 32);
+    if (offset >= 0 && std::fseek(font.get(), offset, SEEK_SET) == 0) {
+        if (std::fread(glyph, 1, 32, font.get()) != 32) std::memset(glyph, 0, 32);
     }
-    std::fclose(f);
 }
 
 void drawGlyph(long x, long y, double scale, int colour, int zone, int position) {

@@ -40,6 +40,40 @@ bool ListBuilder::addString(int type, const ACHAR* text) {
     return rb != nullptr;
 }
 
+bool ListBuilder::addReal(int type, double value) {
+    resbuf* rb = add(type);
+    if (rb) rb->resval.rreal = value;
+    return rb != nullptr;
+}
+
+bool ListBuilder::addPoint(int type, const ads_point value) {
+    resbuf* rb = add(type);
+    if (rb)
+        for (int i = 0; i < 3; ++i) rb->resval.rpoint[i] = value[i];
+    return rb != nullptr;
+}
+
+bool ListBuilder::addShort(int type, int value) {
+    resbuf* rb = add(type);
+    if (rb) rb->resval.rint = static_cast<short>(value);
+    return rb != nullptr;
+}
+
+bool ListBuilder::addLong(int type, long value) {
+    resbuf* rb = add(type);
+    if (rb) rb->resval.rlong = value;
+    return rb != nullptr;
+}
+
+bool ListBuilder::addName(int type, const ads_name value) {
+    resbuf* rb = add(type);
+    if (rb) {
+        rb->resval.rlname[0] = value[0];
+        rb->resval.rlname[1] = value[1];
+    }
+    return rb != nullptr;
+}
+
 void ListBuilder::splice(resbuf* list) {
     if (!list) return;
     append(list);

@@ -4,7 +4,7 @@
 #include "acedads.h"
 #include "acutads.h"
 #include "frame/args.h"
-#include "frame/handlers.h"
+#include "frame/frame_handlers.h"
 #include "frame/messages.h"
 #include "frame/rblist.h"
 #include "frame/xdata.h"
