@@ -13,12 +13,14 @@
 #include "frame/file_handle.h"
 #include "frame/frame_handlers.h"
 #include "frame/paths.h"
+#include "frame/report.h"
 #include "windows.h"
 
 namespace vrn2 {
 namespace {
 
 constexpr int kLetterGap = 0;
+constexpr wchar_t kMsgBadArguments[] = L"\nt:draw-hz: x, y, scale, colour, a string and the text are expected\n";
 
 long roundHalfAway(double v) { return std::lround(v); }
 
@@ -76,15 +78,10 @@ int drawHanzi() {
     double scale = 1.0;
     const ACHAR* text = nullptr;
     const ACHAR* skipped = nullptr;
-    if (!args.nextShort(x) || !args.nextShort(y) || !args.nextNumber(scale) || !args.nextShort(colour)) {
-        acutPrintf(L"\nt:draw-hz: x, y, scale, colour, a string and the text are expected\n");
-        return RTERROR;
-    }
+    if (!args.nextShort(x) || !args.nextShort(y) || !args.nextNumber(scale) || !args.nextShort(colour))
+        return printFailure(kMsgBadArguments);
     args.nextString(skipped);
-    if (!args.nextString(text)) {
-        acutPrintf(L"\nt:draw-hz: x, y, scale, colour, a string and the text are expected\n");
-        return RTERROR;
-    }
+    if (!args.nextString(text)) return printFailure(kMsgBadArguments);
     if (!loadInstallRoot()) return RTERROR;
     std::vector<int> units = letteringUnits(text);
     long cx = x;

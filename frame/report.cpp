@@ -15,4 +15,9 @@ void report(const Message& message) {
     }
 }
 
+int reportFailure(const Message& message, int status) {
+    report(message);
+    return status;
+}
+
 }  // namespace vrn2

@@ -12,6 +12,7 @@
 #include "frame/frame_handlers.h"
 #include "frame/list_builder.h"
 #include "frame/rblist.h"
+#include "frame/report.h"
 #include "frame/xdata.h"
 #include "frame/xdata_groups.h"
 #include "frame/xdata_messages.h"
@@ -73,9 +74,8 @@ int xdataByCode() {
     ArgWalker args;
     ads_name entity = {0, 0};
     auto answerNil = [](const wchar_t* message) {
-        acutPrintf(L"%s", message);
         acedRetNil();
-        return RTNORM;
+        return printFailure(message, RTNORM);
     };
     if (!args.nextName(entity)) return answerNil(L"First arg should be a entity name!\n");
     std::vector<Request> requests;
@@ -87,10 +87,7 @@ int xdataByCode() {
     }
     ListBuilder result;
     for (const Request& request : requests)
-        if (!addRequest(result, entity, request)) {
-            acedAlert(kMsgNoMemory);
-            return RTERROR;
-        }
+        if (!addRequest(result, entity, request)) return reportFailure({Channel::Alert, kMsgNoMemory});
     RbList list(result.release());
     if (list) acedRetList(list.get());
     else acedRetNil();

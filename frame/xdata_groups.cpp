@@ -12,6 +12,7 @@
 #include "acutads.h"
 #include "frame/list_builder.h"
 #include "frame/rblist.h"
+#include "frame/report.h"
 #include "frame/xdata_messages.h"
 
 namespace vrn2 {
@@ -52,11 +53,6 @@ bool addElement(ListBuilder& out, const resbuf* element, int& level) {
     case RTDOTE: return out.addString(1002, L"}");
     default: return true;  // nil and T have no group of their own
     }
-}
-
-int reportNoMemory() {
-    acedAlert(kMsgNoMemory);
-    return RTERROR;
 }
 
 short toShort(double value) {
@@ -151,7 +147,7 @@ int listToXdata(const resbuf* list, resbuf** groups) {
     ListBuilder out;
     int level = 0;
     for (const resbuf* element = list; element; element = element->rbnext) {
-        if (!addElement(out, element, level)) return reportNoMemory();
+        if (!addElement(out, element, level)) return reportFailure({Channel::Alert, kMsgNoMemory});
         if (level == 0) break;
     }
     *groups = out.release();
@@ -181,15 +177,14 @@ int xdataToList(const resbuf* from, resbuf** list) {
     for (const resbuf* group = from; group; group = group->rbnext) {
         bool noMemory = false;
         if (!addListElement(out, group, level, noMemory)) break;
-        if (noMemory) return reportNoMemory();
+        if (noMemory) return reportFailure({Channel::Alert, kMsgNoMemory});
         if (level < 0) break;
         if (level == 0) {
             *list = out.release();
             return RTNORM;
         }
     }
-    acutPrintf(L"%s", kMsgInvalidList);
-    return RTERROR;
+    return printFailure(kMsgInvalidList);
 }
 
 }  // namespace vrn2

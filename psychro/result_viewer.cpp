@@ -50,10 +50,7 @@ int runListDialog(const ResultFileCommand& command, FILE* file) {
 
 int viewResultFile(const ResultFileCommand& command) {
     FileHandle file(command.resultFile, L"r");
-    if (!file) {
-        acedAlert(kNoResults);
-        return RTERROR;
-    }
+    if (!file) return reportFailure({Channel::Alert, kNoResults});
     return runListDialog(command, file.get());
 }
 

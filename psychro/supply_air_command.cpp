@@ -79,7 +79,7 @@ void onCalculate(ads_callback_packet* packet) {
     SupplyAirInput input = supplyAirInput(readings);
     SupplyAirResult result;
     if (computeSupplyAir(input, result) != RTNORM) {
-        ads_set_tile(dialog, L"error", kNoResult);
+        showInputError(dialog, kNoResult);
         return;
     }
     showSupplyAirResult(session->dclId, input, result);
