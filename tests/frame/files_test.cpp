@@ -1,11 +1,7 @@
 // The file helpers: settings files of numbered lines, result blocks appended under a title
 // written once, and data files under the installation root read as lines or tokens.
-#include <unistd.h>
-
 #include <clocale>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -15,37 +11,13 @@
 #include "frame/text_file.h"
 #include "host/text.h"
 #include "tests/support/host_session.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-// A temporary folder of the test's own.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        static int serial = 0;
-        dir_ = fs::temp_directory_path() /
-               ("vrn2_frame_files_" + std::to_string(::getpid()) + "_" + std::to_string(++serial));
-        fs::create_directories(dir_);
-    }
-    ~TemporaryFolder() { fs::remove_all(dir_); }
-    std::wstring path(const std::string& name) const { return (dir_ / name).wstring(); }
-    std::string bytes(const std::string& name) const {
-        std::ifstream in(dir_ / name, std::ios::binary);
-        std::ostringstream s;
-        s << in.rdbuf();
-        return s.str();
-    }
-    void write(const std::string& name, const std::string& bytes) const {
-        fs::create_directories((dir_ / name).parent_path());
-        std::ofstream(dir_ / name, std::ios::binary) << bytes;
-    }
-    const fs::path& dir() const { return dir_; }
-
-private:
-    fs::path dir_;
-};
+using testing_support::TemporaryFolder;
 
 class SettingsFile : public ::testing::Test {
 protected:
