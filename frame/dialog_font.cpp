@@ -7,7 +7,7 @@
 #include "acedads.h"
 #include "acutads.h"
 #include "frame/args.h"
-#include "frame/handlers.h"
+#include "frame/frame_handlers.h"
 #include "windows.h"
 
 namespace vrn2 {

@@ -1,6 +1,8 @@
 #include "frame/function_table.h"
 
-#include "frame/handlers.h"
+#include "frame/frame_handlers.h"
+#include "frame/not_available.h"
+#include "psychro/psychro_handlers.h"
 
 namespace vrn2 {
 

@@ -2,16 +2,6 @@
 
 #include "acutads.h"
 
-namespace vrn2 {
-
-double normaliseAngle(double a) {
-    constexpr double kTwoPi = 6.283185307179586;
-    while (a < 0.0 || a >= kTwoPi) a += a < 0.0 ? kTwoPi : -kTwoPi;
-    return a;
-}
-
-}  // namespace vrn2
-
 AcGePoint2d arx_polar(AcGePoint2d base, double angle, double distance) {
     ads_point from = {base.x, base.y, 0.0}, to;
     acutPolar(from, angle, distance, to);

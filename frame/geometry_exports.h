@@ -1,6 +1,7 @@
 // Angle and polar functions on the host's point classes, exported for the suite's other modules.
 #pragma once
 
+#include "frame/geometry.h"
 #include "gepnt2d.h"
 #include "gepnt3d.h"
 #include "rxdefs.h"
@@ -10,8 +11,3 @@ ACRX_EXPORT AcGePoint3d arx_polar(AcGePoint3d base, double angle, double distanc
 // Radians in [0, 2π).
 ACRX_EXPORT double arx_angle(AcGePoint2d from, AcGePoint2d to);
 ACRX_EXPORT double arx_angle(AcGePoint3d from, AcGePoint3d to);
-
-namespace vrn2 {
-// Brings a host angle into [0, 2π) by whole turns.
-double normaliseAngle(double a);
-}  // namespace vrn2

@@ -10,28 +10,29 @@
 #include "acutads.h"
 #include "adsdlg.h"
 #include "frame/args.h"
-#include "frame/handlers.h"
+#include "frame/file_handle.h"
+#include "frame/frame_handlers.h"
 #include "frame/paths.h"
-#include "wchar_io.h"
+#include "frame/report.h"
 #include "windows.h"
 
 namespace vrn2 {
 namespace {
 
 constexpr int kLetterGap = 0;
+constexpr wchar_t kMsgBadArguments[] = L"\nt:draw-hz: x, y, scale, colour, a string and the text are expected\n";
 
 long roundHalfAway(double v) { return std::lround(v); }
 
 // Reads the 32 bytes of one glyph; a glyph that cannot be read draws nothing.
 void readGlyph(int zone, int position, unsigned char glyph[32]) {
     std::memset(glyph, 0, 32);
-    FILE* f = _wfopen(suitePath(L"system\\cclib").c_str(), L"rb");
-    if (!f) return;
+    FileHandle font(suitePath(L"system\\cclib").c_str(), L"rb");
+    if (!font) return;
     long offset = glyphOffset(zone, position);
-    if (offset >= 0 && std::fseek(f, offset, SEEK_SET) == 0) {
-        if (std::fread(glyph, 1, 32, f) != 32) std::memset(glyph, 0, 32);
+    if (offset >= 0 && std::fseek(font.get(), offset, SEEK_SET) == 0) {
+        if (std::fread(glyph, 1, 32, font.get()) != 32) std::memset(glyph, 0, 32);
     }
-    std::fclose(f);
 }
 
 void drawGlyph(long x, long y, double scale, int colour, int zone, int position) {
@@ -77,15 +78,10 @@ int drawHanzi() {
     double scale = 1.0;
     const ACHAR* text = nullptr;
     const ACHAR* skipped = nullptr;
-    if (!args.nextShort(x) || !args.nextShort(y) || !args.nextNumber(scale) || !args.nextShort(colour)) {
-        acutPrintf(L"\nt:draw-hz: x, y, scale, colour, a string and the text are expected\n");
-        return RTERROR;
-    }
+    if (!args.nextShort(x) || !args.nextShort(y) || !args.nextNumber(scale) || !args.nextShort(colour))
+        return printFailure(kMsgBadArguments);
     args.nextString(skipped);
-    if (!args.nextString(text)) {
-        acutPrintf(L"\nt:draw-hz: x, y, scale, colour, a string and the text are expected\n");
-        return RTERROR;
-    }
+    if (!args.nextString(text)) return printFailure(kMsgBadArguments);
     if (!loadInstallRoot()) return RTERROR;
     std::vector<int> units = letteringUnits(text);
     long cx = x;

@@ -2,7 +2,7 @@
 #include "acedads.h"
 #include "acutads.h"
 #include "frame/function_table.h"
-#include "frame/handlers.h"
+#include "frame/not_available.h"
 
 namespace vrn2 {
 

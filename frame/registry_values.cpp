@@ -2,7 +2,7 @@
 // They answer 1 on success and -1 on failure, which the host sees as an error either way.
 #include "acedads.h"
 #include "acutads.h"
-#include "frame/handlers.h"
+#include "frame/frame_handlers.h"
 #include "windows.h"
 
 namespace vrn2 {

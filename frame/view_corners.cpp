@@ -1,7 +1,7 @@
 // "_Xscjx": the lower-left and upper-right corners of the current view, in user coordinates.
 #include "acedads.h"
 #include "acutads.h"
-#include "frame/handlers.h"
+#include "frame/frame_handlers.h"
 #include "frame/rblist.h"
 
 namespace vrn2 {

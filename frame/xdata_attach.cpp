@@ -9,6 +9,7 @@
 #include "frame/messages.h"
 #include "frame/list_builder.h"
 #include "frame/rblist.h"
+#include "frame/report.h"
 #include "frame/xdata.h"
 #include "frame/xdata_groups.h"
 #include "frame/xdata_messages.h"
@@ -50,11 +51,6 @@ void replaceBraceGroup(const ApplicationBlock& block, resbuf* entityTail, resbuf
 void insertAfter(resbuf* at, resbuf* groups) {
     lastOf(groups)->rbnext = at->rbnext;
     at->rbnext = groups;
-}
-
-int refuseMessage(const wchar_t* message, int status) {
-    acutPrintf(L"%s", message);
-    return status;
 }
 
 // The entity's -3 group, appended when it has no extended data yet; null without memory.
@@ -109,20 +105,20 @@ bool placeList(resbuf* entity, const ACHAR* application, RbList& groups) {
 
 int attachXdata(const ads_name entity, const ACHAR* application, const resbuf* message) {
     if (!application || std::wcslen(application) >= kApplicationNameLimit)
-        return refuseMessage(kMsgApplicationNameTooLong, RTERROR);
-    if (!message) return refuseMessage(kMsgTooFewParameter, RTERROR);
+        return printFailure(kMsgApplicationNameTooLong, RTERROR);
+    if (!message) return printFailure(kMsgTooFewParameter, RTERROR);
     int kind = message->restype;
     if (kind == RTSTR && std::wcslen(message->resval.rstring) >= kMessageLimit)
-        return refuseMessage(kMsgMessageTooLong, RTERROR);
+        return printFailure(kMsgMessageTooLong, RTERROR);
     if (kind != RTSTR && kind != RTLB && kind != RTPOINT && kind != RT3DPOINT)
-        return refuseMessage(kMsgNotMessage, RTNORM);
+        return printFailure(kMsgNotMessage, RTNORM);
 
     if (!ensureApplicationRegistered(application)) {
         acutPrintf(L"\nCan't register XDATA for %s\n", application);
         return RTNORM;
     }
     RbList data(readWithAllXdata(entity));
-    if (!data) return refuseMessage(kMsgNotInDatabase, RTNORM);
+    if (!data) return printFailure(kMsgNotInDatabase, RTNORM);
 
     bool placed = false;
     if (kind == RTSTR) {
@@ -133,10 +129,7 @@ int attachXdata(const ads_name entity, const ACHAR* application, const resbuf* m
         if (status != RTNORM) return RTERROR;
         placed = groups && placeList(data.get(), application, groups);
     }
-    if (!placed) {
-        acedAlert(kMsgNoMemory);
-        return RTERROR;
-    }
+    if (!placed) return reportFailure({Channel::Alert, kMsgNoMemory});
     if (acdbEntMod(data.get()) != RTNORM) {
         long room = 0;
         acdbXdRoom(entity, &room);

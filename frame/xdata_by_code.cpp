@@ -9,9 +9,10 @@
 #include "acedads.h"
 #include "acutads.h"
 #include "frame/args.h"
-#include "frame/handlers.h"
+#include "frame/frame_handlers.h"
 #include "frame/list_builder.h"
 #include "frame/rblist.h"
+#include "frame/report.h"
 #include "frame/xdata.h"
 #include "frame/xdata_groups.h"
 #include "frame/xdata_messages.h"
@@ -28,26 +29,15 @@ struct Request {
 bool addValue(ListBuilder& out, const resbuf* group) {
     int code = group->restype;
     if (code >= 1000 && code <= 1003) return out.addString(RTSTR, group->resval.rstring);
-    resbuf* rb = nullptr;
     if (code == 1005) {
         ads_name entity = {0, 0};
         if (!group->resval.rstring || acdbHandEnt(group->resval.rstring, entity) != RTNORM) return out.add(RTNIL) != nullptr;
-        if (!(rb = out.add(RTENAME))) return false;
-        rb->resval.rlname[0] = entity[0];
-        rb->resval.rlname[1] = entity[1];
-    } else if (code >= 1010 && code <= 1013) {
-        if (!(rb = out.add(RT3DPOINT))) return false;
-        for (int i = 0; i < 3; ++i) rb->resval.rpoint[i] = group->resval.rpoint[i];
-    } else if (code >= 1040 && code <= 1042) {
-        if (!(rb = out.add(RTREAL))) return false;
-        rb->resval.rreal = group->resval.rreal;
-    } else if (code == 1070) {
-        if (!(rb = out.add(RTSHORT))) return false;
-        rb->resval.rint = group->resval.rint;
-    } else if (code == 1071) {
-        if (!(rb = out.add(RTLONG))) return false;
-        rb->resval.rlong = group->resval.rlong;
+        return out.addName(RTENAME, entity);
     }
+    if (code >= 1010 && code <= 1013) return out.addPoint(RT3DPOINT, group->resval.rpoint);
+    if (code >= 1040 && code <= 1042) return out.addReal(RTREAL, group->resval.rreal);
+    if (code == 1070) return out.addShort(RTSHORT, group->resval.rint);
+    if (code == 1071) return out.addLong(RTLONG, group->resval.rlong);
     return true;  // binary chunks have no AutoLISP value
 }
 
@@ -84,9 +74,8 @@ int xdataByCode() {
     ArgWalker args;
     ads_name entity = {0, 0};
     auto answerNil = [](const wchar_t* message) {
-        acutPrintf(L"%s", message);
         acedRetNil();
-        return RTNORM;
+        return printFailure(message, RTNORM);
     };
     if (!args.nextName(entity)) return answerNil(L"First arg should be a entity name!\n");
     std::vector<Request> requests;
@@ -98,10 +87,7 @@ int xdataByCode() {
     }
     ListBuilder result;
     for (const Request& request : requests)
-        if (!addRequest(result, entity, request)) {
-            acedAlert(kMsgNoMemory);
-            return RTERROR;
-        }
+        if (!addRequest(result, entity, request)) return reportFailure({Channel::Alert, kMsgNoMemory});
     RbList list(result.release());
     if (list) acedRetList(list.get());
     else acedRetNil();

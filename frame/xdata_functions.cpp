@@ -4,9 +4,10 @@
 #include "acedads.h"
 #include "acutads.h"
 #include "frame/args.h"
-#include "frame/handlers.h"
+#include "frame/frame_handlers.h"
 #include "frame/messages.h"
 #include "frame/rblist.h"
+#include "frame/report.h"
 #include "frame/xdata.h"
 #include "frame/xdata_messages.h"
 
@@ -16,19 +17,14 @@ namespace {
 constexpr wchar_t kMsgFirstNotEntity[] = L"\nFirst of Argument should be entity name.";
 constexpr wchar_t kMsgSecondNotApplication[] = L"\nSecond of Argument should be Registered application name.";
 
-int fail(const wchar_t* message) {
-    acutPrintf(L"%s", message);
-    return RTERROR;
-}
-
 // The entity and application arguments both functions begin with, checked in order.
 bool readEntityAndApplication(ArgWalker& args, ads_name entity, const ACHAR*& application, int& status) {
-    if (args.atEnd()) status = fail(kMsgTooFewParameter);
-    else if (!args.nextName(entity)) status = fail(kMsgFirstNotEntity);
-    else if (args.atEnd()) status = fail(kMsgTooFewParameter);
-    else if (!args.nextString(application)) status = fail(kMsgSecondNotApplication);
-    else if (std::wcslen(application) >= kApplicationNameLimit) status = fail(kMsgApplicationNameTooLong);
-    else if (args.atEnd()) status = fail(kMsgTooFewParameter);
+    if (args.atEnd()) status = printFailure(kMsgTooFewParameter);
+    else if (!args.nextName(entity)) status = printFailure(kMsgFirstNotEntity);
+    else if (args.atEnd()) status = printFailure(kMsgTooFewParameter);
+    else if (!args.nextString(application)) status = printFailure(kMsgSecondNotApplication);
+    else if (std::wcslen(application) >= kApplicationNameLimit) status = printFailure(kMsgApplicationNameTooLong);
+    else if (args.atEnd()) status = printFailure(kMsgTooFewParameter);
     else return true;
     return false;
 }
@@ -66,7 +62,7 @@ int readXdataFunction() {
     int status = RTERROR;
     if (!readEntityAndApplication(args, entity, application, status)) return status;
     int kind = -1;
-    if (!args.nextShort(kind) || (kind != 0 && kind != 1)) return fail(kMsgBadKind);
+    if (!args.nextShort(kind) || (kind != 0 && kind != 1)) return printFailure(kMsgBadKind);
 
     RbList result;
     if (readXdata(entity, application, kind, result.out()) != RTNORM) acedRetNil();

@@ -12,6 +12,7 @@
 #include "acutads.h"
 #include "frame/list_builder.h"
 #include "frame/rblist.h"
+#include "frame/report.h"
 #include "frame/xdata_messages.h"
 
 namespace vrn2 {
@@ -34,28 +35,17 @@ bool addHandleOf(ListBuilder& out, const ads_name entity) {
 }
 
 bool addElement(ListBuilder& out, const resbuf* element, int& level) {
-    resbuf* rb = nullptr;
     switch (element->restype) {
     case RTREAL:
-    case RTANG:
-        if (!(rb = out.add(1040))) return false;
-        rb->resval.rreal = element->resval.rreal;
-        return true;
+    case RTANG: return out.addReal(1040, element->resval.rreal);
     case RTPOINT:
-    case RT3DPOINT:
-        if (!(rb = out.add(1010))) return false;
-        rb->resval.rpoint[0] = element->resval.rpoint[0];
-        rb->resval.rpoint[1] = element->resval.rpoint[1];
-        rb->resval.rpoint[2] = element->restype == RT3DPOINT ? element->resval.rpoint[2] : 0.0;
-        return true;
-    case RTSHORT:
-        if (!(rb = out.add(1070))) return false;
-        rb->resval.rint = element->resval.rint;
-        return true;
-    case RTLONG:
-        if (!(rb = out.add(1071))) return false;
-        rb->resval.rlong = element->resval.rlong;
-        return true;
+    case RT3DPOINT: {
+        const double* p = element->resval.rpoint;
+        ads_point point = {p[0], p[1], element->restype == RT3DPOINT ? p[2] : 0.0};
+        return out.addPoint(1010, point);
+    }
+    case RTSHORT: return out.addShort(1070, element->resval.rint);
+    case RTLONG: return out.addLong(1071, element->resval.rlong);
     case RTSTR: return out.addString(1000, element->resval.rstring);
     case RTENAME: return addHandleOf(out, element->resval.rlname);
     case RTLB: ++level; return out.addString(1002, L"{");
@@ -63,11 +53,6 @@ bool addElement(ListBuilder& out, const resbuf* element, int& level) {
     case RTDOTE: return out.addString(1002, L"}");
     default: return true;  // nil and T have no group of their own
     }
-}
-
-int reportNoMemory() {
-    acedAlert(kMsgNoMemory);
-    return RTERROR;
 }
 
 short toShort(double value) {
@@ -78,55 +63,35 @@ short toShort(double value) {
 
 // One group as a list element; false for a group that has none.
 bool addListElement(ListBuilder& out, const resbuf* group, int& level, bool& noMemory) {
-    resbuf* rb = nullptr;
-    auto make = [&](int type) {
-        rb = out.add(type);
-        noMemory = rb == nullptr;
-        return rb != nullptr;
-    };
+    bool added = true;
     switch (group->restype) {
-    case 1000:
-        noMemory = !out.addString(RTSTR, group->resval.rstring);
-        return true;
+    case 1000: added = out.addString(RTSTR, group->resval.rstring); break;
     case 1002:
         level += isOpeningBrace(group) ? 1 : -1;
-        make(isOpeningBrace(group) ? RTLB : RTLE);
-        return true;
+        added = out.add(isOpeningBrace(group) ? RTLB : RTLE) != nullptr;
+        break;
     case 1005: {
         ads_name entity = {0, 0};
-        if (group->resval.rstring && acdbHandEnt(group->resval.rstring, entity) == RTNORM) {
-            if (make(RTENAME)) {
-                rb->resval.rlname[0] = entity[0];
-                rb->resval.rlname[1] = entity[1];
-            }
-        } else {
-            make(RTNIL);
-        }
-        return true;
+        if (group->resval.rstring && acdbHandEnt(group->resval.rstring, entity) == RTNORM)
+            added = out.addName(RTENAME, entity);
+        else
+            added = out.add(RTNIL) != nullptr;
+        break;
     }
-    case 1010:
-        if (make(RT3DPOINT))
-            for (int i = 0; i < 3; ++i) rb->resval.rpoint[i] = group->resval.rpoint[i];
-        return true;
+    case 1010: added = out.addPoint(RT3DPOINT, group->resval.rpoint); break;
     // These pairings are the stored ones even where the width changes: a point of 1011 or
     // 1012 comes back as a short made from its x, a 32-bit 1071 as a real.
     case 1011:
-    case 1012:
-        if (make(RTSHORT)) rb->resval.rint = toShort(group->resval.rpoint[0]);
-        return true;
-    case 1070:
-        if (make(RTSHORT)) rb->resval.rint = group->resval.rint;
-        return true;
+    case 1012: added = out.addShort(RTSHORT, toShort(group->resval.rpoint[0])); break;
+    case 1070: added = out.addShort(RTSHORT, group->resval.rint); break;
     case 1040:
     case 1041:
-    case 1042:
-        if (make(RTREAL)) rb->resval.rreal = group->resval.rreal;
-        return true;
-    case 1071:
-        if (make(RTREAL)) rb->resval.rreal = static_cast<double>(group->resval.rlong);
-        return true;
+    case 1042: added = out.addReal(RTREAL, group->resval.rreal); break;
+    case 1071: added = out.addReal(RTREAL, static_cast<double>(group->resval.rlong)); break;
     default: return false;
     }
+    noMemory = !added;
+    return true;
 }
 
 }  // namespace
@@ -182,7 +147,7 @@ int listToXdata(const resbuf* list, resbuf** groups) {
     ListBuilder out;
     int level = 0;
     for (const resbuf* element = list; element; element = element->rbnext) {
-        if (!addElement(out, element, level)) return reportNoMemory();
+        if (!addElement(out, element, level)) return reportFailure({Channel::Alert, kMsgNoMemory});
         if (level == 0) break;
     }
     *groups = out.release();
@@ -212,15 +177,14 @@ int xdataToList(const resbuf* from, resbuf** list) {
     for (const resbuf* group = from; group; group = group->rbnext) {
         bool noMemory = false;
         if (!addListElement(out, group, level, noMemory)) break;
-        if (noMemory) return reportNoMemory();
+        if (noMemory) return reportFailure({Channel::Alert, kMsgNoMemory});
         if (level < 0) break;
         if (level == 0) {
             *list = out.release();
             return RTNORM;
         }
     }
-    acutPrintf(L"%s", kMsgInvalidList);
-    return RTERROR;
+    return printFailure(kMsgInvalidList);
 }
 
 }  // namespace vrn2

@@ -7,6 +7,7 @@
 #include "acutads.h"
 #include "frame/list_builder.h"
 #include "frame/rblist.h"
+#include "frame/report.h"
 #include "frame/xdata.h"
 #include "frame/xdata_groups.h"
 #include "frame/xdata_messages.h"
@@ -15,19 +16,12 @@ namespace vrn2 {
 
 int readXdata(const ads_name entity, const ACHAR* application, int kind, resbuf** result) {
     *result = nullptr;
-    if (!application || std::wcslen(application) >= kApplicationNameLimit) {
-        acutPrintf(L"%s", kMsgApplicationNameTooLong);
-        return RTERROR;
-    }
-    if (kind != static_cast<int>(XdataKind::String) && kind != static_cast<int>(XdataKind::List)) {
-        acutPrintf(L"%s", kMsgBadKind);
-        return RTERROR;
-    }
+    if (!application || std::wcslen(application) >= kApplicationNameLimit)
+        return printFailure(kMsgApplicationNameTooLong);
+    if (kind != static_cast<int>(XdataKind::String) && kind != static_cast<int>(XdataKind::List))
+        return printFailure(kMsgBadKind);
     RbList data(readWithAllXdata(entity));
-    if (!data) {
-        acutPrintf(L"%s", kMsgNotInDatabase);
-        return RTERROR;
-    }
+    if (!data) return printFailure(kMsgNotInDatabase);
     resbuf* mark = findXdataMark(data.get());
     if (!mark) return RTERROR;
     ApplicationBlock block = findBlock(mark, application);

@@ -1,5 +1,7 @@
 #include "psychro/air_mix.h"
 
+#include "frame/doc_data.h"
+
 namespace vrn2 {
 
 MixedAir mixAirStreams(const AirStream& a, const AirStream& b) {
@@ -7,10 +9,7 @@ MixedAir mixAirStreams(const AirStream& a, const AirStream& b) {
     return {(a.G * a.i + b.G * b.i) / total, (a.G * a.d + b.G * b.d) / total};
 }
 
-MixingRecord& mixingRecord() {
-    static MixingRecord record;
-    return record;
-}
+MixingRecord& mixingRecord() { return documentState<MixingRecord>(); }
 
 void storeMixingRecord(MixingRecord& record, const AirStream& a, const AirStream& b, const MixedAir& m) {
     record.values[0] = a.d;

@@ -26,6 +26,7 @@ struct MixingRecord {
     double values[kMixingRecordSize] = {};
 };
 
+// The record of the current drawing, where its chart is: each drawing has its own.
 MixingRecord& mixingRecord();
 // Replaces the record's fields with this mix and marks it present.
 void storeMixingRecord(MixingRecord& record, const AirStream& a, const AirStream& b, const MixedAir& m);

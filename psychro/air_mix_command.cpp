@@ -7,8 +7,8 @@
 #include "acedads.h"
 #include "acutads.h"
 #include "adsdlg.h"
-#include "frame/handlers.h"
-#include "frame/paths.h"
+#include "psychro/psychro_handlers.h"
+#include "frame/dialog_session.h"
 #include "frame/tile_numbers.h"
 #include "psychro/air_mix.h"
 #include "psychro/chart_marks.h"
@@ -49,7 +49,6 @@ constexpr StreamInput kStreamInputs[6] = {
 
 // One run of the command: what was typed survives closing the dialog to look at the chart.
 struct Session {
-    int dclId = -1;
     std::map<std::wstring, std::wstring> texts;
 };
 
@@ -65,18 +64,13 @@ void initialTexts(Session& session) {
     for (const StreamInput& input : kStreamInputs) session.texts[input.tile] = input.initialText;
 }
 
-void showError(ads_hdlg dialog, const wchar_t* message, const wchar_t* focus = nullptr) {
-    ads_set_tile(dialog, L"error", message);
-    if (focus) ads_mode_tile(dialog, focus, MODE_SETFOCUS);
-}
-
 bool readPressure(ads_hdlg dialog, double& pressure) {
     if (!readTileNumber(dialog, L"press", kInputChars, pressure)) {
-        showError(dialog, kMsgBadPressure);
+        showInputError(dialog, kMsgBadPressure);
         return false;
     }
     if (pressure < kLowestPressure || pressure > kHighestPressure) {
-        showError(dialog, kMsgPressureRange);
+        showInputError(dialog, kMsgPressureRange);
         return false;
     }
     return true;
@@ -86,7 +80,7 @@ bool readStreams(ads_hdlg dialog, AirStream& a, AirStream& b) {
     double* targets[6] = {&a.i, &a.d, &a.G, &b.i, &b.d, &b.G};
     for (int k = 0; k < 6; ++k) {
         if (!readTileNumber(dialog, kStreamInputs[k].tile, kInputChars, *targets[k])) {
-            showError(dialog, kStreamInputs[k].message, kStreamInputs[k].tile);
+            showInputError(dialog, kStreamInputs[k].message, kStreamInputs[k].tile);
             return false;
         }
     }
@@ -94,18 +88,13 @@ bool readStreams(ads_hdlg dialog, AirStream& a, AirStream& b) {
 }
 
 void showMixture(const ShownState& shown) {
-    int dclId = -1;
-    if (ads_load_dialog(suitePath(kResultDialogFile).c_str(), &dclId) != RTNORM || dclId < 0) {
-        acedAlert(kMsgCannotLoad);
-        return;
-    }
-    runStateResultDialog(dclId, shown);
-    ads_unload_dialog(dclId);
+    DialogSession resultFile(kResultDialogFile, {Channel::Alert, kMsgCannotLoad});
+    if (resultFile.loaded()) runStateResultDialog(resultFile.dclId(), shown);
 }
 
 void onCompute(ads_callback_packet* packet) {
     ads_hdlg dialog = packet->dialog;
-    ads_set_tile(dialog, L"error", L"");
+    clearInputError(dialog);
     double pressure = 0.0;
     AirStream a, b;
     if (!readPressure(dialog, pressure) || !readStreams(dialog, a, b)) return;
@@ -130,20 +119,15 @@ void onShowOnChart(ads_callback_packet* packet) {
     ads_done_dialog(packet->dialog, kStatusShowOnChart);
 }
 
-bool runMixDialog(Session& session, int& status) {
-    ads_hdlg dialog = nullptr;
-    if (ads_new_dialog(kDialogName, session.dclId, NULLCB, &dialog) != RTNORM || dialog == BAD_DIALOG) {
-        acdbFail(kMsgCannotCreate);
-        return false;
-    }
+bool runMixDialog(DialogSession& dialogs, Session& session, int& status) {
+    if (!dialogs.create(kDialogName, {Channel::Fail, kMsgCannotCreate})) return false;
+    ads_hdlg dialog = dialogs.dialog();
     for (const auto& [key, text] : session.texts) ads_set_tile(dialog, key.c_str(), text.c_str());
-    ads_set_tile(dialog, L"error", L"");
+    clearInputError(dialog);
     ads_mode_tile(dialog, L"i_d", mixingRecord().exists ? MODE_ENABLE : MODE_DISABLE);
-    ads_action_tile(dialog, L"procres", onCompute);
-    ads_client_data_tile(dialog, L"i_d", &session);
-    ads_action_tile(dialog, L"i_d", onShowOnChart);
-    status = DLGCANCEL;
-    ads_start_dialog(dialog, &status);
+    dialogs.action(L"procres", onCompute);
+    dialogs.action(L"i_d", onShowOnChart, &session);
+    status = dialogs.run();
     return true;
 }
 
@@ -168,21 +152,14 @@ bool drawMixOnChart() {
 }  // namespace
 
 int airMix() {
-    if (!loadInstallRoot()) return RTERROR;
+    DialogSession dialogs(kMixDialogFile, {Channel::Fail, kMsgCannotLoad});
+    if (!dialogs.loaded()) return RTERROR;
     Session session;
-    if (ads_load_dialog(suitePath(kMixDialogFile).c_str(), &session.dclId) != RTNORM || session.dclId < 0) {
-        acdbFail(kMsgCannotLoad);
-        return RTERROR;
-    }
     initialTexts(session);
     int status = DLGCANCEL;
     do {
-        if (!runMixDialog(session, status)) {
-            ads_unload_dialog(session.dclId);
-            return RTERROR;
-        }
+        if (!runMixDialog(dialogs, session, status)) return RTERROR;
     } while (status == kStatusShowOnChart && !drawMixOnChart());
-    ads_unload_dialog(session.dclId);
     return RTNORM;
 }
 

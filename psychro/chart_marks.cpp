@@ -4,7 +4,7 @@
 #include <string>
 
 #include "acedads.h"
-#include "frame/command_environment.h"
+#include "frame/host_commands.h"
 
 namespace vrn2 {
 namespace {
@@ -12,36 +12,39 @@ namespace {
 // Keeps the colour of new objects while marks are drawn in the mark colour.
 class MarkColour {
 public:
-    MarkColour() {
+    explicit MarkColour(HostCommands& commands) : commands_(commands) {
         resbuf rb;
         if (acedGetVar(L"CECOLOR", &rb) == RTNORM && rb.restype == RTSTR && rb.resval.rstring) {
             saved_ = rb.resval.rstring;
             std::free(rb.resval.rstring);
         }
-        acedCommand(RTSTR, L"COLOR", RTSTR, kChartMarkColour, RTNONE);
+        commands_.run(RTSTR, L"COLOR", RTSTR, kChartMarkColour);
     }
     ~MarkColour() {
-        if (!saved_.empty()) acedCommand(RTSTR, L"COLOR", RTSTR, saved_.c_str(), RTNONE);
+        if (!saved_.empty()) commands_.run(RTSTR, L"COLOR", RTSTR, saved_.c_str());
     }
     MarkColour(const MarkColour&) = delete;
     MarkColour& operator=(const MarkColour&) = delete;
 
 private:
+    HostCommands& commands_;
     std::wstring saved_;
 };
 
 }  // namespace
 
 int markChartPoint(const ads_point pt, double diameter) {
-    CommandEnvironment environment;
-    MarkColour colour;
-    return acedCommand(RTSTR, L"DONUT", RTREAL, 0.0, RTREAL, diameter, RT3DPOINT, pt, RTSTR, L"", RTNONE);
+    HostCommands commands;
+    MarkColour colour(commands);
+    commands.run(RTSTR, L"DONUT", RTREAL, 0.0, RTREAL, diameter, RT3DPOINT, pt, RTSTR, L"");
+    return commands.lastStatus();
 }
 
 int drawChartLine(const ads_point a, const ads_point b) {
-    CommandEnvironment environment;
-    MarkColour colour;
-    return acedCommand(RTSTR, L"LINE", RT3DPOINT, a, RT3DPOINT, b, RTSTR, L"", RTNONE);
+    HostCommands commands;
+    MarkColour colour(commands);
+    commands.run(RTSTR, L"LINE", RT3DPOINT, a, RT3DPOINT, b, RTSTR, L"");
+    return commands.lastStatus();
 }
 
 }  // namespace vrn2

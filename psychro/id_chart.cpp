@@ -1,11 +1,10 @@
 #include "psychro/id_chart.h"
 
+#include "frame/doc_data.h"
+
 namespace vrn2 {
 
-IdChart& idChart() {
-    static IdChart chart;
-    return chart;
-}
+IdChart& idChart() { return documentState<IdChart>(); }
 
 ChartPoint chartPointOf(const IdChart& chart, double i, double d) {
     return {chart.originX + chart.moistureScale * d,

@@ -25,7 +25,8 @@ struct IdChart {
     double markDiameter = 4.0;    // drawing units: the donut that marks a point on the chart
 };
 
-// The module's chart record: empty (not drawn) until a chart command fills it.
+// The chart record of the current drawing: empty (not drawn) until a chart command fills it;
+// each drawing has its own.
 IdChart& idChart();
 
 struct ChartPoint {

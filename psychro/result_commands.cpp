@@ -1,5 +1,5 @@
 // The five result-file commands: which file, which dialog file and which explanation each uses.
-#include "frame/handlers.h"
+#include "psychro/psychro_handlers.h"
 #include "psychro/result_files.h"
 #include "psychro/supply_air_report.h"
 

@@ -3,7 +3,7 @@
 
 #include "acedads.h"
 #include "adsdlg.h"
-#include "frame/paths.h"
+#include "frame/dialog_session.h"
 #include "psychro/result_files.h"
 #include "wchar_io.h"
 
@@ -23,24 +23,11 @@ void deleteConfirmed(ads_callback_packet* packet) {
 }  // namespace
 
 int deleteResultFile(const ResultFileCommand& command) {
-    if (!loadInstallRoot()) return RTERROR;
-    std::wstring path = suitePath(command.dialogFile);
-    int dclId = -1;
-    if (ads_load_dialog(path.c_str(), &dclId) != RTNORM || dclId < 0) {
-        acedAlert(kCannotLoad);
-        return RTERROR;
-    }
-    ads_hdlg dialog = nullptr;
-    if (ads_new_dialog(kConfirmDialog, dclId, NULLCB, &dialog) != RTNORM || dialog == BAD_DIALOG) {
-        acedAlert(kCannotShow);
-        ads_unload_dialog(dclId);
-        return RTERROR;
-    }
-    ads_action_tile(dialog, L"ok", deleteConfirmed);
-    ads_client_data_tile(dialog, L"ok", const_cast<wchar_t*>(command.resultFile));
-    int status = DLGCANCEL;
-    ads_start_dialog(dialog, &status);
-    ads_unload_dialog(dclId);
+    DialogSession dialogs(command.dialogFile, {Channel::Alert, kCannotLoad});
+    if (!dialogs.loaded()) return RTERROR;
+    if (!dialogs.create(kConfirmDialog, {Channel::Alert, kCannotShow})) return RTERROR;
+    dialogs.action(L"ok", deleteConfirmed, const_cast<wchar_t*>(command.resultFile));
+    dialogs.run();
     return RTNORM;
 }
 

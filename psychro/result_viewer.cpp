@@ -5,9 +5,9 @@
 #include "acdbads.h"
 #include "acedads.h"
 #include "adsdlg.h"
-#include "frame/paths.h"
+#include "frame/dialog_session.h"
+#include "frame/file_handle.h"
 #include "psychro/result_files.h"
-#include "wchar_io.h"
 
 namespace vrn2 {
 namespace {
@@ -24,14 +24,8 @@ struct Explanation {
 
 void showExplanation(ads_callback_packet* packet) {
     const auto* explanation = static_cast<const Explanation*>(packet->client_data);
-    ads_hdlg dialog = nullptr;
-    if (!explanation || ads_new_dialog(explanation->dialog, explanation->dclId, NULLCB, &dialog) != RTNORM ||
-        dialog == BAD_DIALOG) {
-        acdbFail(kCannotExplain);
-        return;
-    }
-    int status = DLGCANCEL;
-    ads_start_dialog(dialog, &status);
+    DialogSession dialogs(explanation ? explanation->dclId : -1);
+    if (dialogs.create(explanation ? explanation->dialog : nullptr, {Channel::Fail, kCannotExplain})) dialogs.run();
 }
 
 void fillList(ads_hdlg dialog, FILE* file) {
@@ -42,40 +36,22 @@ void fillList(ads_hdlg dialog, FILE* file) {
 
 // Runs the list dialog over the open result file; the file stays the caller's.
 int runListDialog(const ResultFileCommand& command, FILE* file) {
-    if (!loadInstallRoot()) return RTERROR;
-    std::wstring path = suitePath(command.dialogFile);
-    int dclId = -1;
-    if (ads_load_dialog(path.c_str(), &dclId) != RTNORM || dclId < 0) {
-        acdbFail(kCannotLoad);
-        return RTERROR;
-    }
-    ads_hdlg dialog = nullptr;
-    if (ads_new_dialog(kListDialog, dclId, NULLCB, &dialog) != RTNORM || dialog == BAD_DIALOG) {
-        acdbFail(command.cannotShowMessage);
-        ads_unload_dialog(dclId);
-        return RTERROR;
-    }
-    fillList(dialog, file);
-    Explanation explanation{dclId, command.explanationDialog};
-    ads_action_tile(dialog, L"resintr", showExplanation);
-    ads_client_data_tile(dialog, L"resintr", &explanation);
-    int status = DLGCANCEL;
-    ads_start_dialog(dialog, &status);
-    ads_unload_dialog(dclId);
+    DialogSession dialogs(command.dialogFile, {Channel::Fail, kCannotLoad});
+    if (!dialogs.loaded()) return RTERROR;
+    if (!dialogs.create(kListDialog, {Channel::Fail, command.cannotShowMessage})) return RTERROR;
+    fillList(dialogs.dialog(), file);
+    Explanation explanation{dialogs.dclId(), command.explanationDialog};
+    dialogs.action(L"resintr", showExplanation, &explanation);
+    dialogs.run();
     return RTNORM;
 }
 
 }  // namespace
 
 int viewResultFile(const ResultFileCommand& command) {
-    FILE* file = _wfopen(command.resultFile, L"r");
-    if (!file) {
-        acedAlert(kNoResults);
-        return RTERROR;
-    }
-    int status = runListDialog(command, file);
-    std::fclose(file);
-    return status;
+    FileHandle file(command.resultFile, L"r");
+    if (!file) return reportFailure({Channel::Alert, kNoResults});
+    return runListDialog(command, file.get());
 }
 
 }  // namespace vrn2

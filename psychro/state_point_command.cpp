@@ -7,8 +7,8 @@
 #include "acedads.h"
 #include "acutads.h"
 #include "adsdlg.h"
-#include "frame/handlers.h"
-#include "frame/paths.h"
+#include "psychro/psychro_handlers.h"
+#include "frame/dialog_session.h"
 #include "frame/tile_numbers.h"
 #include "psychro/chart_marks.h"
 #include "psychro/id_chart.h"
@@ -53,18 +53,13 @@ void applyChoice(ads_hdlg dialog, int choice) {
         ads_mode_tile(dialog, tile, choiceReadsTile(choice, tile) ? MODE_ENABLE : MODE_DISABLE);
 }
 
-void showError(ads_hdlg dialog, const wchar_t* message, const wchar_t* focus = nullptr) {
-    ads_set_tile(dialog, L"error", message);
-    if (focus) ads_mode_tile(dialog, focus, MODE_SETFOCUS);
-}
-
 // Reads the pressure and the choice's inputs in order; the first fault shows its message and
 // answers false. A pressure that is not a number shows nothing.
 bool readInputs(ads_hdlg dialog, int choice, AirState& state) {
     double pressure = 0.0;
     if (!readTileNumber(dialog, L"pressure", kInputChars, pressure)) return false;
     if (pressure <= 0.0) {
-        showError(dialog, kMsgBadPressure);
+        showInputError(dialog, kMsgBadPressure);
         return false;
     }
     rememberPressure(pressure);
@@ -73,12 +68,12 @@ bool readInputs(ads_hdlg dialog, int choice, AirState& state) {
     for (int k = 0; k < c.inputCount; ++k) {
         const ChoiceInput& input = c.inputs[k];
         if (!readTileNumber(dialog, input.tile, kInputChars, fieldOf(state, input.field))) {
-            showError(dialog, input.message, inputTakesFocus(c, k) ? input.tile : nullptr);
+            showInputError(dialog, input.message, inputTakesFocus(c, k) ? input.tile : nullptr);
             return false;
         }
     }
     if (wetBulbAboveDryBulb(choice, state)) {
-        showError(dialog, kMsgWetAboveDry, L"ts");
+        showInputError(dialog, kMsgWetAboveDry, L"ts");
         return false;
     }
     return true;
@@ -93,7 +88,7 @@ void onChoice(ads_callback_packet* packet) {
 
 void onResult(ads_callback_packet* packet) {
     const auto* session = static_cast<const Session*>(packet->client_data);
-    ads_set_tile(packet->dialog, L"error", L"");
+    clearInputError(packet->dialog);
     ShownState shown;
     shown.choice = g_choice;
     if (!readInputs(packet->dialog, g_choice, shown.state)) return;
@@ -112,7 +107,8 @@ void onSelectPoint(ads_callback_packet* packet) {
     ads_done_dialog(packet->dialog, kStatusPickPoint);
 }
 
-void fillDialog(ads_hdlg dialog, Session& session) {
+void fillDialog(const DialogSession& dialogs, Session& session) {
+    ads_hdlg dialog = dialogs.dialog();
     if (session.texts.empty()) {
         double kPa = 0.0;
         if (rememberedPressure(kPa))
@@ -124,27 +120,10 @@ void fillDialog(ads_hdlg dialog, Session& session) {
     applyChoice(dialog, g_choice);
     for (int c = 1; c <= kChoiceCount; ++c) {
         session.radios[c - 1] = {&session, c};
-        const wchar_t* key = statePointChoice(c)->radioKey;
-        ads_client_data_tile(dialog, key, &session.radios[c - 1]);
-        ads_action_tile(dialog, key, onChoice);
+        dialogs.action(statePointChoice(c)->radioKey, onChoice, &session.radios[c - 1]);
     }
-    ads_client_data_tile(dialog, L"result", &session);
-    ads_action_tile(dialog, L"result", onResult);
-    ads_client_data_tile(dialog, L"sel_point", &session);
-    ads_action_tile(dialog, L"sel_point", onSelectPoint);
-}
-
-// Runs the main dialog once; false when it cannot be created.
-bool runMainDialog(Session& session, int& status) {
-    ads_hdlg dialog = nullptr;
-    if (ads_new_dialog(kDialogName, session.dclId, NULLCB, &dialog) != RTNORM || dialog == BAD_DIALOG) {
-        acdbFail(kMsgCannotOpen);
-        return false;
-    }
-    fillDialog(dialog, session);
-    status = DLGCANCEL;
-    ads_start_dialog(dialog, &status);
-    return true;
+    dialogs.action(L"result", onResult, &session);
+    dialogs.action(L"sel_point", onSelectPoint, &session);
 }
 
 // The state under a point picked on the chart, solved at the pressure the chart was drawn for.
@@ -168,21 +147,18 @@ void stateFromPickedPoint(const Session& session) {
 }  // namespace
 
 int statePoint() {
-    if (!loadInstallRoot()) return RTERROR;
+    const Message cannotOpen{Channel::Fail, kMsgCannotOpen};
+    DialogSession dialogs(kStatePointDialogFile, cannotOpen);
+    if (!dialogs.loaded()) return RTERROR;
     Session session;
-    if (ads_load_dialog(suitePath(kStatePointDialogFile).c_str(), &session.dclId) != RTNORM || session.dclId < 0) {
-        acdbFail(kMsgCannotOpen);
-        return RTERROR;
-    }
+    session.dclId = dialogs.dclId();
     int status = DLGCANCEL;
     do {
-        if (!runMainDialog(session, status)) {
-            ads_unload_dialog(session.dclId);
-            return RTERROR;
-        }
+        if (!dialogs.create(kDialogName, cannotOpen)) return RTERROR;
+        fillDialog(dialogs, session);
+        status = dialogs.run();
         if (status == kStatusPickPoint) stateFromPickedPoint(session);
     } while (status == kStatusPickPoint);
-    ads_unload_dialog(session.dclId);
     return RTNORM;
 }
 

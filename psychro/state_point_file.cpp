@@ -1,11 +1,8 @@
 #include "psychro/state_point_file.h"
 
-#include <cstdio>
-#include <cwchar>
-
-#include "acedads.h"
+#include "frame/result_file.h"
+#include "frame/text_format.h"
 #include "psychro/state_point_choices.h"
-#include "wchar_io.h"
 
 namespace vrn2 {
 namespace {
@@ -74,26 +71,17 @@ StatePointBlock statePointBlock(int choice, const AirState& state) {
     return block;
 }
 
-bool appendStatePointBlock(const wchar_t* fileName, const StatePointBlock& block) {
-    // The title goes only into a new file: an existing one is appended to as it is.
-    bool exists = false;
-    if (FILE* probe = _wfopen(fileName, L"r")) {
-        exists = true;
-        std::fclose(probe);
-    }
-    FILE* file = _wfopen(fileName, exists ? L"a+" : L"w");
-    if (!file) {
-        acedAlert(kMsgCannotCreate);
-        return false;
-    }
-    if (!exists) std::fwprintf(file, L"%ls", kTitle);
-    std::fwprintf(file, L"%ls", kSeparator);
-    std::fwprintf(file, block.pressureFormat, block.pressure);
-    std::fwprintf(file, block.knownFormat, block.known[0], block.known[1]);
+std::wstring statePointText(const StatePointBlock& block) {
+    std::wstring text = kSeparator;
+    appendFormat(text, block.pressureFormat, block.pressure);
+    appendFormat(text, block.knownFormat, block.known[0], block.known[1]);
     for (int r = 0; r < block.rowCount; ++r)
-        std::fwprintf(file, block.rowFormat, block.rows[r].label, block.rows[r].value);
-    std::fclose(file);
-    return true;
+        appendFormat(text, block.rowFormat, block.rows[r].label, block.rows[r].value);
+    return text;
+}
+
+bool appendStatePointBlock(const wchar_t* fileName, const StatePointBlock& block) {
+    return appendResultBlock(fileName, kTitle, statePointText(block), {Channel::Alert, kMsgCannotCreate});
 }
 
 }  // namespace vrn2

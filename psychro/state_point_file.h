@@ -3,6 +3,8 @@
 // function from the choice and the state; the writer only prints it.
 #pragma once
 
+#include <string>
+
 #include "psychro/airstate/airstate.h"
 
 namespace vrn2 {
@@ -14,7 +16,7 @@ struct ReportRow {
     double value;
 };
 
-// One block of the file. Each format is printed with fwprintf and its own arguments.
+// One block of the file. Each format is printed with its own arguments.
 struct StatePointBlock {
     const wchar_t* pressureFormat;  // one %.3lf: B
     double pressure;
@@ -30,6 +32,9 @@ struct StatePointBlock {
 // the quantities among t, ts, d, fy, i that the choice did not give, in that order; choice 5
 // has the single row ts.
 StatePointBlock statePointBlock(int choice, const AirState& state);
+
+// The text of BLOCK as the file holds it.
+std::wstring statePointText(const StatePointBlock& block);
 
 // Appends BLOCK to FILENAME in the current folder, creating it with its title first. On
 // failure shows the alert "不能创建存放结果的文件.", writes nothing and answers false.

@@ -3,6 +3,7 @@
 #include "acdbads.h"
 #include "acutads.h"
 #include "adsdlg.h"
+#include "frame/dialog_session.h"
 #include "frame/tile_numbers.h"
 #include "psychro/state_point_file.h"
 
@@ -44,16 +45,11 @@ void onSave(ads_callback_packet* packet) {
 }  // namespace
 
 bool runStateResultDialog(int dclId, const ShownState& shown) {
-    ads_hdlg dialog = nullptr;
-    if (ads_new_dialog(kResultDialogName, dclId, NULLCB, &dialog) != RTNORM || dialog == BAD_DIALOG) {
-        acdbFail(kMsgCannotShow);
-        return false;
-    }
-    fillValues(dialog, shown);
-    ads_client_data_tile(dialog, L"saveres", const_cast<ShownState*>(&shown));
-    ads_action_tile(dialog, L"saveres", onSave);
-    int status = DLGCANCEL;
-    ads_start_dialog(dialog, &status);
+    DialogSession result(dclId);
+    if (!result.create(kResultDialogName, {Channel::Fail, kMsgCannotShow})) return false;
+    fillValues(result.dialog(), shown);
+    result.action(L"saveres", onSave, const_cast<ShownState*>(&shown));
+    result.run();
     return true;
 }
 

@@ -5,8 +5,8 @@
 
 #include "acedads.h"
 #include "adsdlg.h"
-#include "frame/handlers.h"
-#include "frame/paths.h"
+#include "psychro/psychro_handlers.h"
+#include "frame/dialog_session.h"
 #include "frame/tile_numbers.h"
 #include "psychro/supply_air_checks.h"
 #include "psychro/supply_air_result_dialog.h"
@@ -70,17 +70,16 @@ SupplyAirReadings readInputs(ads_hdlg dialog) {
 void onCalculate(ads_callback_packet* packet) {
     const auto* session = static_cast<const Session*>(packet->client_data);
     ads_hdlg dialog = packet->dialog;
-    ads_set_tile(dialog, L"error", L"");
+    clearInputError(dialog);
     SupplyAirReadings readings = readInputs(dialog);
     if (auto fault = firstSupplyAirFault(readings)) {
-        acedAlert(fault->message);
-        ads_mode_tile(dialog, fault->key, MODE_SETFOCUS);
+        showInputError(dialog, fault->message, fault->key, ErrorPlace::Alert);
         return;
     }
     SupplyAirInput input = supplyAirInput(readings);
     SupplyAirResult result;
     if (computeSupplyAir(input, result) != RTNORM) {
-        ads_set_tile(dialog, L"error", kNoResult);
+        showInputError(dialog, kNoResult);
         return;
     }
     showSupplyAirResult(session->dclId, input, result);
@@ -88,13 +87,8 @@ void onCalculate(ads_callback_packet* packet) {
 
 void onHelp(ads_callback_packet* packet) {
     const auto* session = static_cast<const Session*>(packet->client_data);
-    ads_hdlg help = nullptr;
-    if (ads_new_dialog(kHelpDialog, session->dclId, NULLCB, &help) != RTNORM || help == BAD_DIALOG) {
-        acedAlert(kCannotShowHelp);
-        return;
-    }
-    int status = DLGCANCEL;
-    ads_start_dialog(help, &status);
+    DialogSession help(session->dclId);
+    if (help.create(kHelpDialog, {Channel::Alert, kCannotShowHelp})) help.run();
 }
 
 void fillInputs(ads_hdlg dialog) {
@@ -105,36 +99,23 @@ void fillInputs(ads_hdlg dialog) {
     showMoistureGiven(dialog, true);
 }
 
-void connectActions(ads_hdlg dialog, Session& session) {
-    ads_action_tile(dialog, L"q", onLoadKind);
-    ads_action_tile(dialog, L"w", onMoistureGiven);
-    ads_action_tile(dialog, L"cal", onCalculate);
-    ads_action_tile(dialog, L"help", onHelp);
-    ads_client_data_tile(dialog, L"cal", &session);
-    ads_client_data_tile(dialog, L"help", &session);
+void connectActions(const DialogSession& dialogs, Session& session) {
+    dialogs.action(L"q", onLoadKind);
+    dialogs.action(L"w", onMoistureGiven);
+    dialogs.action(L"cal", onCalculate, &session);
+    dialogs.action(L"help", onHelp, &session);
 }
 
 }  // namespace
 
 int supplyAirCalculation() {
-    if (!loadInstallRoot()) return RTERROR;
-    Session session;
-    std::wstring path = suitePath(kDialogFile);
-    if (ads_load_dialog(path.c_str(), &session.dclId) != RTNORM || session.dclId < 0) {
-        acedAlert(kCannotLoad);
-        return RTERROR;
-    }
-    ads_hdlg dialog = nullptr;
-    if (ads_new_dialog(kMainDialog, session.dclId, NULLCB, &dialog) != RTNORM || dialog == BAD_DIALOG) {
-        acedAlert(kCannotInitialise);
-        ads_unload_dialog(session.dclId);
-        return RTERROR;
-    }
-    fillInputs(dialog);
-    connectActions(dialog, session);
-    int status = DLGCANCEL;
-    ads_start_dialog(dialog, &status);
-    ads_unload_dialog(session.dclId);
+    DialogSession dialogs(kDialogFile, {Channel::Alert, kCannotLoad});
+    if (!dialogs.loaded()) return RTERROR;
+    if (!dialogs.create(kMainDialog, {Channel::Alert, kCannotInitialise})) return RTERROR;
+    Session session{dialogs.dclId()};
+    fillInputs(dialogs.dialog());
+    connectActions(dialogs, session);
+    dialogs.run();
     return RTNORM;
 }
 

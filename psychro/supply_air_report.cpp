@@ -1,20 +1,10 @@
 #include "psychro/supply_air_report.h"
 
-#include <cstdio>
-#include <cwchar>
-
-#include "wchar_io.h"
+#include "frame/result_file.h"
+#include "frame/text_format.h"
 
 namespace vrn2 {
 namespace {
-
-// Appends one formatted piece. Labels travel as arguments, so a "%" inside them is plain text.
-template <typename... Args>
-void put(std::wstring& out, const wchar_t* format, Args... args) {
-    wchar_t piece[512];
-    int n = std::swprintf(piece, sizeof piece / sizeof piece[0], format, args...);
-    if (n > 0) out.append(piece, static_cast<size_t>(n));
-}
 
 constexpr wchar_t kDryBulb[] = L"干球温度 ℃   :   ";
 constexpr wchar_t kHumidity[] = L"相对湿度(%)   :   ";
@@ -23,11 +13,11 @@ constexpr wchar_t kMoistureLoad[] = L"湿负荷(kg/h)  :   ";
 constexpr wchar_t kSupplyState[] = L"送风状态:         ";
 
 void putLoadRow(std::wstring& out, const wchar_t* label, double value) {
-    put(out, L"\n         %ls     %.3lf", label, value);
+    appendFormat(out, L"\n         %ls     %.3lf", label, value);
 }
 
 void putStateRow(std::wstring& out, const wchar_t* label, const std::wstring& text) {
-    put(out, L"\n             %ls %ls", label, text.c_str());
+    appendFormat(out, L"\n             %ls %ls", label, text.c_str());
 }
 
 }  // namespace
@@ -36,11 +26,11 @@ std::wstring supplyAirReportTitle() { return L"\n         送风量与送风状�
 
 std::wstring supplyAirReportBlock(const SupplyAirInput& in, const SupplyAirShown& shown) {
     std::wstring out;
-    put(out, L"\n__________________________________________\n\n(B=%.3lfkPa)", in.B);
+    appendFormat(out, L"\n__________________________________________\n\n(B=%.3lfkPa)", in.B);
     out += L"\n 输入参数:  ";
-    put(out, L"\n         %ls ", L"室内设计状态:     ");
-    put(out, L"\n             %ls %.2lf", kDryBulb, in.tn);
-    put(out, L"\n             %ls %.2lf", kHumidity, in.rhn);
+    appendFormat(out, L"\n         %ls ", L"室内设计状态:     ");
+    appendFormat(out, L"\n             %ls %.2lf", kDryBulb, in.tn);
+    appendFormat(out, L"\n             %ls %.2lf", kHumidity, in.rhn);
     if (in.totalLoad) {
         putLoadRow(out, L"全热冷负荷(kW):   ", in.load);
         putLoadRow(out, kMoistureLoad, in.w);
@@ -51,8 +41,8 @@ std::wstring supplyAirReportBlock(const SupplyAirInput& in, const SupplyAirShown
     putLoadRow(out, kDeltaT, in.dt);
 
     out += L"\n 计算结果:";
-    put(out, L"\n         %ls     %ls", L"送风量(kg/h)  :   ", shown.G.c_str());
-    put(out, L"\n         %ls", kSupplyState);
+    appendFormat(out, L"\n         %ls     %ls", L"送风量(kg/h)  :   ", shown.G.c_str());
+    appendFormat(out, L"\n         %ls", kSupplyState);
     putStateRow(out, kDryBulb, shown.t);
     if (shown.complete) {
         // The moisture label says kg/kg although the value is in g/kg; it is kept as designers
@@ -66,20 +56,7 @@ std::wstring supplyAirReportBlock(const SupplyAirInput& in, const SupplyAirShown
 }
 
 bool appendSupplyAirReport(const wchar_t* fileName, const SupplyAirInput& in, const SupplyAirShown& shown) {
-    std::wstring text;
-    FILE* file = nullptr;
-    if (FILE* existing = _wfopen(fileName, L"r")) {
-        std::fclose(existing);
-        file = _wfopen(fileName, L"a+");
-    } else {
-        file = _wfopen(fileName, L"w");
-        text = supplyAirReportTitle();
-    }
-    if (!file) return false;
-    text += supplyAirReportBlock(in, shown);
-    int written = std::fputws(text.c_str(), file);
-    int closed = std::fclose(file);
-    return written >= 0 && closed == 0;
+    return appendResultBlock(fileName, supplyAirReportTitle(), supplyAirReportBlock(in, shown));
 }
 
 }  // namespace vrn2

@@ -3,6 +3,7 @@
 #include "acedads.h"
 #include "acutads.h"
 #include "adsdlg.h"
+#include "frame/dialog_session.h"
 #include "frame/tile_numbers.h"
 #include "psychro/supply_air_report.h"
 
@@ -63,17 +64,12 @@ void fillResultTiles(ads_hdlg dialog, const SupplyAirResult& result) {
 }  // namespace
 
 void showSupplyAirResult(int dclId, const SupplyAirInput& in, const SupplyAirResult& result) {
-    ads_hdlg dialog = nullptr;
-    if (ads_new_dialog(kResultDialog, dclId, NULLCB, &dialog) != RTNORM || dialog == BAD_DIALOG) {
-        acedAlert(kCannotInitialise);
-        return;
-    }
-    fillResultTiles(dialog, result);
+    DialogSession dialogs(dclId);
+    if (!dialogs.create(kResultDialog, {Channel::Alert, kCannotInitialise})) return;
+    fillResultTiles(dialogs.dialog(), result);
     ShownResult shown{&in, result.complete};
-    ads_action_tile(dialog, L"saveres", saveShownResult);
-    ads_client_data_tile(dialog, L"saveres", &shown);
-    int status = DLGCANCEL;
-    ads_start_dialog(dialog, &status);
+    dialogs.action(L"saveres", saveShownResult, &shown);
+    dialogs.run();
 }
 
 }  // namespace vrn2

@@ -5,7 +5,7 @@
 
 #include "acedads.h"
 #include "frame/hanzi_lettering.h"
-#include "frame/handlers.h"
+#include "frame/frame_handlers.h"
 #include "host/runtime/screen.h"
 #include "host/win/registry.h"
 #include "host/win/window_registry.h"

@@ -5,7 +5,7 @@
 // = 15.52, t = (70.718 − 0.001·15.52·2500)/(0.001·15.52·1.84 + 1.01) = 30.733 °C.
 #include <string>
 
-#include "frame/handlers.h"
+#include "psychro/psychro_handlers.h"
 #include "host/dcl/dcl.h"
 #include "psychro/air_mix.h"
 #include "psychro/id_chart.h"

@@ -3,11 +3,7 @@
 // scripted dialogs and for files read and written as bytes.
 #pragma once
 
-#include <unistd.h>
-
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -15,6 +11,7 @@
 #include "host/dcl/dialog_script.h"
 #include "host/text.h"
 #include "tests/support/host_session.h"
+#include "tests/support/temporary_folder.h"
 
 namespace result_file_test {
 
@@ -30,15 +27,11 @@ protected:
     void SetUp() override {
         HostSession::SetUp();
         saved_ = fs::current_path();
-        static int serial = 0;
-        dir_ = fs::temp_directory_path() /
-               ("vrn2_result_files_" + std::to_string(::getpid()) + "_" + std::to_string(++serial));
-        fs::create_directories(dir_);
+        dir_ = folder_.dir();
         fs::current_path(dir_);
     }
     void TearDown() override {
         fs::current_path(saved_);
-        fs::remove_all(dir_);
         HostSession::TearDown();
     }
 
@@ -64,16 +57,8 @@ protected:
         return n;
     }
 
-    std::string fileBytes(const std::string& name) const {
-        std::ifstream in(dir_ / name, std::ios::binary);
-        std::ostringstream s;
-        s << in.rdbuf();
-        return s.str();
-    }
-    void writeFile(const std::string& name, const std::string& bytes) const {
-        fs::create_directories((dir_ / name).parent_path());
-        std::ofstream(dir_ / name, std::ios::binary) << bytes;
-    }
+    std::string fileBytes(const std::string& name) const { return folder_.bytes(name); }
+    void writeFile(const std::string& name, const std::string& bytes) const { folder_.write(name, bytes); }
     bool exists(const std::string& name) const { return fs::exists(dir_ / name); }
 
     // Points _DRV at a folder of the test's own, for dialog files that are missing or lack a
@@ -83,6 +68,7 @@ protected:
         doc().symbols()[L"_DRV"] = host::lisp::makeStr(host::fromUtf8((dir_ / relative).string() + "/"));
     }
 
+    testing_support::TemporaryFolder folder_;
     fs::path dir_, saved_;
 };
 

@@ -2,7 +2,7 @@
 // when the file or a dialog is missing, the explanation behind "resintr", and deletion only on
 // "ok".
 #include "adscodes.h"
-#include "frame/handlers.h"
+#include "psychro/psychro_handlers.h"
 #include "tests/psychro/result_file_session.h"
 
 namespace result_file_test {

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "frame/handlers.h"
+#include "psychro/psychro_handlers.h"
 #include "host/dcl/dcl.h"
 #include "host/runtime/input.h"
 #include "psychro/id_chart.h"

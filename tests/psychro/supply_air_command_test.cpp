@@ -2,7 +2,7 @@
 // input checks with their alerts and focus, the three kinds of calculation, the result dialog
 // and the result file read back byte for byte.
 #include "adscodes.h"
-#include "frame/handlers.h"
+#include "psychro/psychro_handlers.h"
 #include "tests/psychro/result_file_session.h"
 
 namespace result_file_test {

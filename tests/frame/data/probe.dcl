@@ -3,4 +3,5 @@ probe : dialog {
   label = "Probe";
   : edit_box { key = "tn_value"; label = "t"; }
   ok_cancel;
+  errtile;
 }

@@ -1,0 +1,18 @@
+// The handlers of the psychrometric AutoLISP functions, one per function of the table.
+#pragma once
+
+namespace vrn2 {
+
+// Supply air, and viewing and deleting the result files of the calculations
+int supplyAirCalculation();    // "c:gscal"
+int deleteSupplyAirResults();  // "c:gsdelres"
+int viewSupplyAirResults();    // "c:gsv_res"
+int viewStatePointResults();   // "c:v_res"
+int viewCoolerResults();       // "c:scv_res"
+int deleteCoolerResults();     // "c:scdelres"
+
+// Psychrometric state point and air mixing
+int statePoint();  // "c:ci_dt"
+int airMix();      // "c:airmix"
+
+}  // namespace vrn2
