@@ -3,7 +3,7 @@
 #include "adsdlg.h"
 #include "frame/dialog_session.h"
 #include "host/dcl/dcl.h"
-#include "host/runtime/dialog_script.h"
+#include "host/dcl/dialog_script.h"
 #include "tests/support/host_session.h"
 
 namespace {
