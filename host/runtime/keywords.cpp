@@ -5,14 +5,14 @@
 namespace host {
 namespace {
 
-std::vector<std::wstring_view> tokens(std::wstring_view spec) {
+std::vector<std::wstring_view> tokens(std::wstring_view list) {
     std::vector<std::wstring_view> out;
     size_t i = 0;
-    while (i < spec.size()) {
-        while (i < spec.size() && spec[i] == L' ') ++i;
+    while (i < list.size()) {
+        while (i < list.size() && list[i] == L' ') ++i;
         size_t start = i;
-        while (i < spec.size() && spec[i] != L' ') ++i;
-        if (i > start) out.push_back(spec.substr(start, i - start));
+        while (i < list.size() && list[i] != L' ') ++i;
+        if (i > start) out.push_back(list.substr(start, i - start));
     }
     return out;
 }
