@@ -8,13 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "frame/geometry.h"
+
 namespace vrn2::duct {
 
-struct DuctPoint {
-    double x = 0.0;
-    double y = 0.0;
-    double z = 0.0;
-};
+using DuctPoint = Point3;
 
 // Drawing units are millimetres; calculation lengths are metres.
 inline constexpr double kUnitFactor = 1.0;
@@ -22,8 +20,8 @@ inline constexpr double kLengthFactor = 1.0 / (1000.0 * kUnitFactor);
 
 // Two ends touch when every coordinate differs by strictly less than 10 drawing units.
 inline constexpr double kCoincidence = 10.0 * kUnitFactor;
-bool coincide(const DuctPoint& a, const DuctPoint& b);
-double distance(const DuctPoint& a, const DuctPoint& b);
+inline bool coincide(const DuctPoint& a, const DuctPoint& b) { return vrn2::coincide(a, b, kCoincidence); }
+using vrn2::distance;
 
 inline constexpr int kNoSegment = -1;
 

@@ -33,7 +33,6 @@ const std::vector<DialogKeys> kDuctDialogs = {
 class DuctDialogFile : public testing_support::HostSession {};
 
 TEST_F(DuctDialogFile, EveryDialogLoadsWithTheTilesTheCommandsUse) {
-    host::dcl::resetDialogs();
     std::wstring path = testing_support::sourceRoot() + L"dwglib\\k-sljs.dcl";
     int id = -1;
     ASSERT_EQ(ads_load_dialog(path.c_str(), &id), RTNORM) << host::toUtf8(printed());
