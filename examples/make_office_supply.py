@@ -81,8 +81,8 @@ def build():
     end = 3000.0 * len(MAIN_SIZES)
     floor.outlet((end, 0.0), 400)
     # Meeting room, added later: its branch ends on the middle of the second main duct.
-    floor.duct((4500.0, -3000.0), (4500.0, -4.0), (250,), 1.5)
-    floor.outlet((4500.0, -3000.0), 450)
+    floor.duct((5250.0, -3000.0), (5250.0, -4.0), (250,), 1.5)
+    floor.outlet((5250.0, -3000.0), 450)
     return floor.doc
 
 
