@@ -97,13 +97,13 @@ GOOD = '(set "K" "0.15") (set "B" "101.325") (set "t" "20") (press "cal")'
 
 
 class DuctCommands(unittest.TestCase):
-    def run_script(self, drawing, script):
+    def run_script(self, drawing, script, root=ROOT):
         self.dir = tempfile.mkdtemp()
         source, saved, lsp = (os.path.join(self.dir, n) for n in ("in.dxf", "out.dxf", "s.lsp"))
         drawing.doc.saveas(source)
         with open(lsp, "w", encoding="utf-8") as f:
             f.write(script)
-        p = subprocess.run([ADSCON, "--root", ROOT, "--drawing", source, "--cwd", self.dir, "--save", saved, lsp],
+        p = subprocess.run([ADSCON, "--root", root, "--drawing", source, "--cwd", self.dir, "--save", saved, lsp],
                            capture_output=True, text=True, timeout=120)
         self.assertEqual(p.returncode, 0, p.stdout + p.stderr)
         out = ezdxf.readfile(saved)
@@ -231,6 +231,15 @@ class DuctCommands(unittest.TestCase):
         printed, _ = self.run_script(tee(), CALC.format(actions=GOOD))
         self.assertNotIn("最不利管路总阻力", printed)
         self.assertFalse(os.path.exists(os.path.join(self.dir, "k-sljs.sr")))
+        self.assertFalse(os.path.exists(os.path.join(self.dir, "out.ksl")))
+
+    def test_missing_dialog_file_is_told_and_nothing_is_calculated(self):
+        d = tee()
+        empty_root = tempfile.mkdtemp()
+        printed, doc = self.run_script(d, self.trace(d) + CALC.format(actions=GOOD), root=empty_root)
+        self.assertIn("不能装载对话框文件K-SLJS.DCL..", printed)
+        self.assertEqual(self.xtext(doc, d.root.dxf.handle, "K_DUCT_G"), "1000.0000000")
+        self.assertIsNone(self.xtext(doc, d.root.dxf.handle, "K_DUCT_DP"))
         self.assertFalse(os.path.exists(os.path.join(self.dir, "out.ksl")))
 
     def test_inputs_are_checked_in_order(self):
