@@ -18,19 +18,6 @@ namespace {
 
 constexpr size_t kOutfileChars = 80;
 
-std::wstring fromUtf8(const std::string& bytes) {
-    std::wstring text;
-    for (size_t i = 0; i < bytes.size();) {
-        unsigned char c = static_cast<unsigned char>(bytes[i]);
-        int extra = c < 0x80 ? 0 : c < 0xE0 ? 1 : c < 0xF0 ? 2 : 3;
-        char32_t code = extra == 0 ? c : c & (0x3F >> extra);
-        for (int k = 1; k <= extra && i + k < bytes.size(); ++k) code = (code << 6) | (bytes[i + k] & 0x3F);
-        text += static_cast<wchar_t>(code);
-        i += 1 + extra;
-    }
-    return text;
-}
-
 std::wstring outfilePath(const DuctNetwork& network) {
     ads_name root;
     if (!network.held() || acdbHandEnt(network.segments[0].handle.c_str(), root) != RTNORM) return L"";
@@ -41,12 +28,10 @@ std::wstring outfilePath(const DuctNetwork& network) {
 }  // namespace
 
 void writeResultsFile(const DuctNetwork& network, double total) {
-    std::string bytes = ductResultsText(network, total);
     std::wstring path = outfilePath(network);
-    FileHandle file(path.c_str(), L"wb");
-    if (path.empty() || !file.get() || std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) {
-        acutPrintf(L"\n无法创建保存结果的文件.");
-    }
+    FileHandle file(path.c_str(), L"w");
+    bool written = file && std::fputws(ductResultsText(network, total).c_str(), file.get()) >= 0;
+    if (!(file && file.close() && written)) acutPrintf(L"\n无法创建保存结果的文件.");
 }
 
 void showResults(const DuctNetwork& network, double total) {
@@ -56,7 +41,7 @@ void showResults(const DuctNetwork& network, double total) {
     std::swprintf(line, 128, L"最不利环路阻力为ΔP=%.4lf Pa", total);
     ads_set_tile(dialogs.dialog(), L"k_sljs_res", line);
     ads_start_list(dialogs.dialog(), L"duct_size_res", 3, 0);
-    for (const std::wstring& text : splitLines(fromUtf8(ductResultsText(network, total)))) {
+    for (const std::wstring& text : splitLines(ductResultsText(network, total))) {
         if (!text.empty()) ads_add_list(text.c_str());
     }
     ads_end_list();

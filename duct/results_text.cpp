@@ -1,22 +1,12 @@
 #include "duct/results_text.h"
 
-#include <cstdarg>
-#include <cstdio>
 #include <vector>
 
 #include "duct/segment_loss.h"
+#include "frame/text_format.h"
 
 namespace vrn2::duct {
 namespace {
-
-void appendf(std::string& out, const char* format, ...) {
-    char buffer[256];
-    va_list args;
-    va_start(args, format);
-    std::vsnprintf(buffer, sizeof buffer, format, args);
-    va_end(args);
-    out += buffer;
-}
 
 double fileVelocity(const DuctSegment& s) {
     double perSecond = s.flow / 3600.0 * 1000.0 * 1000.0;
@@ -27,30 +17,30 @@ double fileVelocity(const DuctSegment& s) {
 bool printableSize(const DuctSegment& s) { return hasSize({s.shape, s.size1, s.size2, s.flow}); }
 
 // Number, flow, length, size and velocity; a duct without a size gets "none" for both.
-void appendSegmentColumns(std::string& out, const DuctSegment& s, const char* ending) {
+void appendSegmentColumns(std::wstring& out, const DuctSegment& s, const wchar_t* ending) {
     if (!printableSize(s)) {
-        appendf(out, "%4d  %15.3lf  %8.3lf     none      none\n", s.number, s.flow, s.length);
+        appendFormat(out, L"%4d  %15.3lf  %8.3lf     none      none\n", s.number, s.flow, s.length);
         return;
     }
     if (s.shape == kShapeCircular) {
-        appendf(out, "%4d%14.3lf %8.3lf     %4d     %8.4lf", s.number, s.flow, s.length, s.size1, fileVelocity(s));
+        appendFormat(out, L"%4d%14.3lf %8.3lf     %4d     %8.4lf", s.number, s.flow, s.length, s.size1, fileVelocity(s));
     } else {
-        appendf(out, "%4d%14.3lf %8.3lf  %4d×%4d  %8.4lf", s.number, s.flow, s.length, s.size1, s.size2,
+        appendFormat(out, L"%4d%14.3lf %8.3lf  %4d×%4d  %8.4lf", s.number, s.flow, s.length, s.size1, s.size2,
                 fileVelocity(s));
     }
     out += ending;
 }
 
-void appendMainLines(std::string& out, const DuctNetwork& net) {
+void appendMainLines(std::wstring& out, const DuctNetwork& net) {
     int s = net.held() ? 0 : kNoSegment;
     while (s != kNoSegment) {
         const DuctSegment& seg = net.segments[s];
         if (printableSize(seg)) {
-            appendSegmentColumns(out, seg, "  ");
-            if (seg.pressureLoss) appendf(out, "%10.6lf\n", *seg.pressureLoss);
-            else out += "\n";
+            appendSegmentColumns(out, seg, L"  ");
+            if (seg.pressureLoss) appendFormat(out, L"%10.6lf\n", *seg.pressureLoss);
+            else out += L"\n";
         } else {
-            appendSegmentColumns(out, seg, "");
+            appendSegmentColumns(out, seg, L"");
         }
         int next = kNoSegment;
         for (int b : seg.branches) {
@@ -64,7 +54,7 @@ void appendMainLines(std::string& out, const DuctNetwork& net) {
 }
 
 // Each branch off the main path and everything below it, depth first in branch order.
-void appendBranchLines(std::string& out, const DuctNetwork& net) {
+void appendBranchLines(std::wstring& out, const DuctNetwork& net) {
     for (int s = net.held() ? 0 : kNoSegment; s != kNoSegment;) {
         const DuctSegment& seg = net.segments[s];
         int next = kNoSegment;
@@ -80,7 +70,7 @@ void appendBranchLines(std::string& out, const DuctNetwork& net) {
             while (!stack.empty()) {
                 int b = stack.back();
                 stack.pop_back();
-                appendSegmentColumns(out, net.segments[b], "\n");
+                appendSegmentColumns(out, net.segments[b], L"\n");
                 for (int i = 2; i >= 0; --i) {
                     if (net.segments[b].branches[i] != kNoSegment) stack.push_back(net.segments[b].branches[i]);
                 }
@@ -92,13 +82,13 @@ void appendBranchLines(std::string& out, const DuctNetwork& net) {
 
 }  // namespace
 
-std::string ductResultsText(const DuctNetwork& network, double total) {
-    std::string out = "\n===============风道计算结果==============\n";
-    out += "\n管段编号 流量(m^3/h) 管长(m) 风管尺寸(mm) 流速(m/s) 阻力(Pa)";
-    out += "\n主风道\n";
+std::wstring ductResultsText(const DuctNetwork& network, double total) {
+    std::wstring out = L"\n===============风道计算结果==============\n";
+    out += L"\n管段编号 流量(m^3/h) 管长(m) 风管尺寸(mm) 流速(m/s) 阻力(Pa)";
+    out += L"\n主风道\n";
     appendMainLines(out, network);
-    appendf(out, "\n最不利环路阻力为ΔP=%.4lf Pa\n", total);
-    out += "\n支风道:\n";
+    appendFormat(out, L"\n最不利环路阻力为ΔP=%.4lf Pa\n", total);
+    out += L"\n支风道:\n";
     appendBranchLines(out, network);
     return out;
 }

@@ -8,7 +8,7 @@
 
 namespace vrn2::duct {
 
-// UTF-8 text; TOTAL is the sum of the main path's losses.
-std::string ductResultsText(const DuctNetwork& network, double total);
+// TOTAL is the sum of the main path's losses.
+std::wstring ductResultsText(const DuctNetwork& network, double total);
 
 }  // namespace vrn2::duct

@@ -7,13 +7,15 @@
 
 #include "duct/main_path_calc.h"
 #include "duct/results_text.h"
+#include "host/text.h"
 
 namespace vrn2::duct {
 namespace {
 
-std::vector<std::string> linesOf(const std::string& text) {
+// The text as UTF-8 lines, as the file holds it.
+std::vector<std::string> linesOf(const std::wstring& text) {
     std::vector<std::string> lines;
-    std::istringstream in(text);
+    std::istringstream in(host::toUtf8(text));
     for (std::string l; std::getline(in, l);) lines.push_back(l);
     return lines;
 }
