@@ -1,5 +1,6 @@
 #include "frame/function_table.h"
 
+#include "duct/duct_handlers.h"
 #include "frame/frame_handlers.h"
 #include "frame/not_available.h"
 #include "psychro/psychro_handlers.h"
@@ -52,9 +53,9 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:schlp", notAvailable<42>},  // 42
     {L"c:scv_res", viewCoolerResults},  // 43
     {L"c:scdelres", deleteCoolerResults},  // 44
-    {L"c:zljs", notAvailable<45>},  // 45
+    {L"c:zljs", ductHydraulicCalc},  // 45
     {L"c:jzdy", notAvailable<46>},  // 46
-    {L"c:sssj", notAvailable<47>},  // 47
+    {L"c:sssj", traceDuctNetwork},  // 47
     {L"c:bjzfd", notAvailable<48>},  // 48
     {L"c:fdcc", notAvailable<49>},  // 49
     {L"c:bjfd", notAvailable<50>},  // 50
