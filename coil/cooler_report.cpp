@@ -2,20 +2,14 @@
 
 #include <cwchar>
 
+#include "coil/format_text.h"
+
 namespace vrn2 {
 namespace {
 
-// Appends one formatted piece. Labels travel as arguments, so a "%" inside them is plain text.
-template <typename... Args>
-void put(std::wstring& out, const wchar_t* format, Args... args) {
-    wchar_t piece[512];
-    int n = std::swprintf(piece, sizeof piece / sizeof piece[0], format, args...);
-    if (n > 0) out.append(piece, static_cast<size_t>(n));
-}
-
 std::wstring threeDecimals(double value) {
     std::wstring text;
-    put(text, L"%.3lf", value);
+    appendFormatted(text, L"%.3lf", value);
     return text;
 }
 
@@ -34,18 +28,18 @@ std::wstring coolerReportBlock(const CoilCheckInput& in, const std::wstring& mod
                                const CoolerShown& shown) {
     namespace label = cooler_labels;
     std::wstring out;
-    put(out, L"\n______________________________________\n\n(B=%.3lfkPa)", in.B);
+    appendFormatted(out, L"\n______________________________________\n\n(B=%.3lfkPa)", in.B);
     out += L"\n 输入参数:  ";
-    put(out, L"\n         %ls %ls", label::kModel, model.c_str());
-    put(out, L"\n         %ls %d", label::kRows, in.rows);
-    put(out, L"\n         %ls %d", label::kUnits, in.units);
-    put(out, in.series ? L"\n         %ls 串联" : L"\n         %ls 并联", label::kConnection);
-    put(out, L"\n         %ls ", label::kInlet);
-    put(out, L"\n           干球温度 ℃:    %.2lf", in.t1);
-    put(out, L"\n           湿球温度 ℃:    %.2lf", in.ts1);
-    put(out, L"\n         %ls %.2lf", label::kAirFlow, in.G);
-    put(out, L"\n         %ls %.2lf", label::kWaterInlet, in.tw1);
-    put(out, L"\n         %ls %.2lf", label::kWaterFlow, in.W);
+    appendFormatted(out, L"\n         %ls %ls", label::kModel, model.c_str());
+    appendFormatted(out, L"\n         %ls %d", label::kRows, in.rows);
+    appendFormatted(out, L"\n         %ls %d", label::kUnits, in.units);
+    appendFormatted(out, in.series ? L"\n         %ls 串联" : L"\n         %ls 并联", label::kConnection);
+    appendFormatted(out, L"\n         %ls ", label::kInlet);
+    appendFormatted(out, L"\n           干球温度 ℃:    %.2lf", in.t1);
+    appendFormatted(out, L"\n           湿球温度 ℃:    %.2lf", in.ts1);
+    appendFormatted(out, L"\n         %ls %.2lf", label::kAirFlow, in.G);
+    appendFormatted(out, L"\n         %ls %.2lf", label::kWaterInlet, in.tw1);
+    appendFormatted(out, L"\n         %ls %.2lf", label::kWaterFlow, in.W);
     out += L"\n 计算结果:";
     const struct {
         const wchar_t* label;
@@ -53,7 +47,7 @@ std::wstring coolerReportBlock(const CoilCheckInput& in, const std::wstring& mod
     } rows[] = {{label::kEnthalpy, shown.ih}, {label::kMoisture, shown.d},     {label::kDryBulb, shown.t},
                 {label::kWetBulb, shown.ts},  {label::kDewPoint, shown.tl},    {label::kHumidity, shown.fy},
                 {label::kWaterOutlet, shown.tw2}, {label::kLoad, shown.Q}};
-    for (const auto& row : rows) put(out, L"\n         %ls %ls", row.label, row.text.c_str());
+    for (const auto& row : rows) appendFormatted(out, L"\n         %ls %ls", row.label, row.text.c_str());
     return out;
 }
 

@@ -5,18 +5,12 @@
 #include <cwchar>
 #include <cwctype>
 
+#include "coil/format_text.h"
 #include "coil/model_lookup.h"
 #include "wchar_io.h"
 
 namespace vrn2 {
 namespace {
-
-template <typename... Args>
-void put(std::wstring& out, const wchar_t* format, Args... args) {
-    wchar_t piece[512];
-    int n = std::swprintf(piece, sizeof piece / sizeof piece[0], format, args...);
-    if (n > 0) out.append(piece, static_cast<size_t>(n));
-}
 
 struct Token {
     size_t begin = 0, end = 0;
@@ -43,14 +37,14 @@ size_t recordStart(const std::wstring& text, size_t headerBegin) {
 
 std::wstring contactListEntry(double Vy, double E2) {
     std::wstring entry;
-    put(entry, L"Vy=%.2lf   E2=%.4lf", Vy, E2);
+    appendFormatted(entry, L"Vy=%.2lf   E2=%.4lf", Vy, E2);
     return entry;
 }
 
 std::wstring formatCoolerRecord(const CoolerModel& m, const std::vector<std::wstring>& entries) {
     std::wstring text = L"\n" + coolerHeader(m.name, m.rows);
-    put(text, L"\nA=%.4lf B=%.4lf m=%.4lf p=%.4lf n=%.4lf", m.A, m.B, m.m, m.p, m.n);
-    put(text, L"\nL=%.2lf-%.2lf Fd=%.4lf Fy=%.4lf fw=%.6lf\n", m.L1, m.L2, m.Fd, m.Fy, m.fw);
+    appendFormatted(text, L"\nA=%.4lf B=%.4lf m=%.4lf p=%.4lf n=%.4lf", m.A, m.B, m.m, m.p, m.n);
+    appendFormatted(text, L"\nL=%.2lf-%.2lf Fd=%.4lf Fy=%.4lf fw=%.6lf\n", m.L1, m.L2, m.Fd, m.Fy, m.fw);
     for (const std::wstring& entry : entries) text += entry + L"\n";
     return text;
 }
