@@ -37,9 +37,6 @@ struct CoolerShown {
     std::wstring ih, d, t, ts, tl, fy, tw2, Q;
 };
 
-// The tile texts of a finished check (three decimals).
-CoolerShown coolerShown(const CoilCheckResult& result);
-
 std::wstring coolerReportTitle();
 std::wstring coolerReportBlock(const CoilCheckInput& in, const std::wstring& model,
                                const CoolerShown& shown);

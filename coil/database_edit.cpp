@@ -3,18 +3,9 @@
 #include <cstdio>
 
 #include "coil/database_text.h"
-#include "wchar_io.h"
+#include "frame/file_handle.h"
 
 namespace vrn2 {
-namespace {
-
-bool databaseExists(const std::wstring& path) {
-    std::FILE* file = _wfopen(path.c_str(), L"rb");
-    if (file) std::fclose(file);
-    return file != nullptr;
-}
-
-}  // namespace
 
 const wchar_t* editMessage(EditOutcome outcome) {
     switch (outcome) {
@@ -35,16 +26,16 @@ EditOutcome saveCoolerRecord(const std::wstring& databasePath, const std::wstrin
     std::wstring text;
     RecordSpan span;
     const bool readable = readTextFile(databasePath, text);
-    if (!readable && databaseExists(databasePath)) return EditOutcome::CannotAppend;
+    if (!readable && fileExists(databasePath.c_str())) return EditOutcome::CannotAppend;
     if (readable && findRecordSpan(text, model.name, model.rows, span)) {
         text.replace(span.begin, span.end - span.begin, record);
         return replaceDatabase(databasePath, tempPath, text) ? EditOutcome::Modified
                                                              : EditOutcome::CannotCreateTemp;
     }
-    std::FILE* file = _wfopen(databasePath.c_str(), L"a+");
+    FileHandle file(databasePath.c_str(), L"a+");
     if (!file) return EditOutcome::CannotAppend;
-    bool ok = std::fputws(record.c_str(), file) >= 0;
-    ok = (std::fclose(file) == 0) && ok;
+    bool ok = std::fputws(record.c_str(), file.get()) >= 0;
+    ok = file.close() && ok;
     return ok ? EditOutcome::Added : EditOutcome::CannotAppend;
 }
 

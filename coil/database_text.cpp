@@ -5,9 +5,10 @@
 #include <cwchar>
 #include <cwctype>
 
-#include "coil/format_text.h"
 #include "coil/model_lookup.h"
-#include "wchar_io.h"
+#include "frame/file_handle.h"
+#include "frame/text_file.h"
+#include "frame/text_format.h"
 
 namespace vrn2 {
 namespace {
@@ -37,14 +38,14 @@ size_t recordStart(const std::wstring& text, size_t headerBegin) {
 
 std::wstring contactListEntry(double Vy, double E2) {
     std::wstring entry;
-    appendFormatted(entry, L"Vy=%.2lf   E2=%.4lf", Vy, E2);
+    appendFormat(entry, L"Vy=%.2lf   E2=%.4lf", Vy, E2);
     return entry;
 }
 
 std::wstring formatCoolerRecord(const CoolerModel& m, const std::vector<std::wstring>& entries) {
     std::wstring text = L"\n" + coolerHeader(m.name, m.rows);
-    appendFormatted(text, L"\nA=%.4lf B=%.4lf m=%.4lf p=%.4lf n=%.4lf", m.A, m.B, m.m, m.p, m.n);
-    appendFormatted(text, L"\nL=%.2lf-%.2lf Fd=%.4lf Fy=%.4lf fw=%.6lf\n", m.L1, m.L2, m.Fd, m.Fy, m.fw);
+    appendFormat(text, L"\nA=%.4lf B=%.4lf m=%.4lf p=%.4lf n=%.4lf", m.A, m.B, m.m, m.p, m.n);
+    appendFormat(text, L"\nL=%.2lf-%.2lf Fd=%.4lf Fy=%.4lf fw=%.6lf\n", m.L1, m.L2, m.Fd, m.Fy, m.fw);
     for (const std::wstring& entry : entries) text += entry + L"\n";
     return text;
 }
@@ -73,24 +74,18 @@ bool findRecordSpan(const std::wstring& text, const std::wstring& name, int rows
 }
 
 bool readTextFile(const std::wstring& path, std::wstring& text) {
-    std::FILE* file = _wfopen(path.c_str(), L"rt");
-    if (!file) return false;
-    text.clear();
-    std::wint_t c;
-    while ((c = std::fgetwc(file)) != WEOF) text.push_back(static_cast<wchar_t>(c));
+    FileHandle file(path.c_str(), L"rt");
     // A byte sequence that is no text stops the reading early; an edit must not go on from a
     // part of the file.
-    const bool complete = !std::ferror(file);
-    std::fclose(file);
-    return complete;
+    return file && readWideText(file.get(), text);
 }
 
 bool writeTextFile(const std::wstring& path, const std::wstring& text) {
-    std::FILE* file = _wfopen(path.c_str(), L"wt");
+    FileHandle file(path.c_str(), L"wt");
     if (!file) return false;
-    bool ok = text.empty() || std::fputws(text.c_str(), file) >= 0;
-    ok = (std::fflush(file) == 0) && ok && !std::ferror(file);
-    ok = (std::fclose(file) == 0) && ok;
+    bool ok = text.empty() || std::fputws(text.c_str(), file.get()) >= 0;
+    ok = !std::ferror(file.get()) && ok;
+    ok = file.close() && ok;
     if (!ok) _wremove(path.c_str());
     return ok;
 }

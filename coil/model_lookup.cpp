@@ -5,15 +5,15 @@
 #include <cwchar>
 
 #include "coil/token_reader.h"
-#include "wchar_io.h"
+#include "frame/file_handle.h"
 
 namespace vrn2 {
 namespace {
 
 // Closes the file before the alert, so that a user who edits the database from the alert's
 // advice finds it free.
-bool failClosed(std::FILE* file, const wchar_t* message, const AlertSink& alert) {
-    std::fclose(file);
+bool failClosed(FileHandle& file, const wchar_t* message, const AlertSink& alert) {
+    file.close();
     if (alert) alert(message);
     return false;
 }
@@ -73,12 +73,12 @@ std::wstring coolerHeader(const std::wstring& name, int rows) {
 
 bool lookupCoolerModel(const std::wstring& path, const std::wstring& name, int rows,
                        CoolerModel& out, const AlertSink& alert) {
-    std::FILE* file = _wfopen(path.c_str(), L"rt");
+    FileHandle file(path.c_str(), L"rt");
     if (!file) {
         if (alert) alert(kMsgNoDeviceFile);
         return false;
     }
-    TokenReader tokens(file);
+    TokenReader tokens(file.get());
     const std::wstring header = coolerHeader(name, rows);
     std::wstring token;
     bool found = false;
@@ -90,7 +90,7 @@ bool lookupCoolerModel(const std::wstring& path, const std::wstring& name, int r
     record.rows = static_cast<short>(rows);
     if (!readCoefficients(tokens, record)) return failClosed(file, kMsgBadRecordStructure, alert);
     if (readContactTokens(tokens, record) < 2) return failClosed(file, kMsgNoContactPairs, alert);
-    std::fclose(file);
+    file.close();
     out = record;
     return true;
 }
@@ -110,14 +110,13 @@ bool parseCoolerHeader(const std::wstring& token, CoolerKey& key) {
 
 std::vector<CoolerKey> listCoolerRecords(const std::wstring& path) {
     std::vector<CoolerKey> records;
-    std::FILE* file = _wfopen(path.c_str(), L"rt");
+    FileHandle file(path.c_str(), L"rt");
     if (!file) return records;
-    TokenReader tokens(file);
+    TokenReader tokens(file.get());
     std::wstring token;
     CoolerKey key;
     while (tokens.next(token))
         if (parseCoolerHeader(token, key)) records.push_back(key);
-    std::fclose(file);
     return records;
 }
 
