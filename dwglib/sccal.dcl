@@ -201,7 +201,7 @@ scdinfo : dialog {
             }
             : boxed_column {
                 label = "传热系数 K = 1/(1/(A·Vy^m·ξ^p) + 1/(B·w^n))  W/(m2·℃)";
-                : image { key = "formula"; width = 48; height = 6; color = graphics_background; }
+                : image { key = "formula"; width = 48; height = 9; color = graphics_background; }
                 : row {
                     : edit_box { key = "A_value"; label = "A:"; edit_width = 9; edit_limit = 30; }
                     : edit_box { key = "m_value"; label = "m:"; edit_width = 9; edit_limit = 30; }

@@ -51,22 +51,22 @@ bool parseSlide(const std::string& bytes, Slide& slide, std::wstring& problem) {
     slide.highY = in.word();
     Reader records(bytes, kHeaderBytes, swap);
     short color = 7;
-    int lastX1 = 0, lastY1 = 0, lastX2 = 0, lastY2 = 0;
+    // The saved point: the start of a full or offset vector, the end of a common-end vector.
+    int px = 0, py = 0;
+    SlideVector v;
     while (records.has(2)) {
         const int w = records.word();
         const int kind = w >> 8;
         if (kind < 0x80) {
             if (!records.has(6)) break;
-            lastX1 = w;
-            lastY1 = records.word();
-            lastX2 = records.word();
-            lastY2 = records.word();
+            v = {w, records.word(), records.word(), records.word(), color};
+            px = v.x1, py = v.y1;
         } else if (kind == 0xFB) {
             if (!records.has(3)) break;
-            lastX1 += static_cast<std::int8_t>(w & 0xFF);
-            lastY1 += records.signedByte();
-            lastX2 = lastX1 + records.signedByte();
-            lastY2 = lastY1 + records.signedByte();
+            const int dx1 = static_cast<std::int8_t>(w & 0xFF), dy1 = records.signedByte();
+            const int dx2 = records.signedByte(), dy2 = records.signedByte();
+            v = {px + dx1, py + dy1, px + dx2, py + dy2, color};
+            px = v.x1, py = v.y1;
         } else if (kind == 0xFC) {
             return true;
         } else if (kind == 0xFD) {
@@ -77,10 +77,9 @@ bool parseSlide(const std::string& bytes, Slide& slide, std::wstring& problem) {
             continue;  // fills are not vectors
         } else if (kind == 0xFE) {
             if (!records.has(1)) break;
-            lastX1 = lastX2;
-            lastY1 = lastY2;
-            lastX2 = lastX1 + static_cast<std::int8_t>(w & 0xFF);
-            lastY2 = lastY1 + records.signedByte();
+            const int dx = static_cast<std::int8_t>(w & 0xFF), dy = records.signedByte();
+            v = {px, py, px + dx, py + dy, color};
+            px = v.x2, py = v.y2;
         } else if (kind == 0xFF) {
             color = static_cast<short>(w & 0xFF);
             continue;
@@ -88,7 +87,7 @@ bool parseSlide(const std::string& bytes, Slide& slide, std::wstring& problem) {
             problem = L"unknown slide record";
             return false;
         }
-        slide.vectors.push_back({lastX1, lastY1, lastX2, lastY2, color});
+        slide.vectors.push_back(v);
     }
     problem = L"slide file ends without its end record";
     return false;

@@ -5,11 +5,12 @@
 // 0x56, a level byte 2, the highest x and y dot (16-bit), the aspect ratio times 10 000 000
 // (32-bit, low byte first), the hardware-fill flag (16-bit) and the test number 0x1234 (16-bit,
 // in the byte order of the words that follow). Records are 16-bit words: a word below 0x8000
-// starts a vector (from x, from y, to x, to y); 0xFBnn an offset vector (four signed byte
-// offsets from the last vector's ends); 0xFC00 the end; 0xFD a solid fill (a count, then that
-// many points, then the count again as a negative number); 0xFEnn a vector from the last end
-// to it plus the signed offsets nn and one more byte; 0xFFnn a new colour nn. The slide's origin
-// is its lower-left corner.
+// starts a vector (from x, from y, to x, to y); 0xFBnn an offset vector, its four signed byte
+// offsets (nn and three more) taken from the saved point; 0xFC00 the end; 0xFD a solid fill (a
+// count, then that many points); 0xFEnn a common-end vector from the saved point to it plus
+// the offsets nn and one more byte; 0xFFnn a new colour nn. The saved point is the start of the
+// last full or offset vector and the end of the last common-end vector, as netpbm's sldtoppm
+// reads them. The slide's origin is its lower-left corner.
 #pragma once
 
 #include <filesystem>
