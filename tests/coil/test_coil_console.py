@@ -114,6 +114,16 @@ class CoilCheckFile(unittest.TestCase):
             self.assertIn("[alert] 数据文件SC.DAT没有存在此型号或此排数\n的表冷器,请增加他到此文件", out)
             self.assertFalse((inst.cwd / "sccal.txt").exists())
 
+    def test_result_file_that_cannot_be_written_is_told(self):
+        with tempfile.TemporaryDirectory() as tmp:
+            inst = Installation(tmp)
+            (inst.cwd / "sccal.txt").mkdir()  # a folder where the file should be
+            actions = check_actions(1, 4, 1, "parallel", 27, 19.5, 20000, 7, 18000)
+            code, out = inst.run(dialog("sccaldlg", *actions, '(press "cal")', '(press "saveres")'), "(c:sccal)")
+            self.assertEqual(code, 0, out)
+            self.assertIn("[alert] 不能创建存放结果的文件.", out)
+            self.assertTrue((inst.cwd / "sccal.txt").is_dir())
+
     def test_velocity_beyond_the_table_is_told_once(self):
         with tempfile.TemporaryDirectory() as tmp:
             inst = Installation(tmp)
