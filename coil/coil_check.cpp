@@ -91,7 +91,10 @@ CoilCheckStatus checkCoil(const CoilCheckInput& in, const CoolerModel& model, Co
     const int outletStatus = coolerState(in.B, t2, pass.ts2, out.outlet);
     out.Q = (out.inlet.i - pass.i2) * in.G / 3600.0;
     out.tw2 = out.Q / ((in.W / 3600.0) * kWaterHeat) + in.tw1;
-    if (outletStatus != RTNORM || !finite(out.outlet) || !std::isfinite(out.Q))
+    // A balance met outside the range between the water and the air temperature is no state a
+    // coil can reach, whatever the relations give there.
+    const bool between = t2 > in.tw1 && t2 < in.t1;
+    if (outletStatus != RTNORM || !finite(out.outlet) || !std::isfinite(out.Q) || !between)
         return CoilCheckStatus::ImpossibleOutlet;
     return CoilCheckStatus::Done;
 }
