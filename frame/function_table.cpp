@@ -1,5 +1,6 @@
 #include "frame/function_table.h"
 
+#include "coil/coil_handlers.h"
 #include "duct/duct_handlers.h"
 #include "frame/frame_handlers.h"
 #include "frame/not_available.h"
@@ -48,9 +49,9 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"t:draw-hz", drawHanzi},  // 37
     {L"gdsx", notAvailable<38>},  // 38
     {L"pzjc", notAvailable<39>},  // 39
-    {L"c:sccal", notAvailable<40>},  // 40
-    {L"c:scinfo", notAvailable<41>},  // 41
-    {L"c:schlp", notAvailable<42>},  // 42
+    {L"c:sccal", coolerCheck},  // 40
+    {L"c:scinfo", coolerDatabaseEditor},  // 41
+    {L"c:schlp", coolerHelp},  // 42
     {L"c:scv_res", viewCoolerResults},  // 43
     {L"c:scdelres", deleteCoolerResults},  // 44
     {L"c:zljs", ductHydraulicCalc},  // 45

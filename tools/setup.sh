@@ -6,7 +6,7 @@ here=$(cd "$(dirname "$0")/.." && pwd)
 build="$here/build"
 what=${1:-example}
 
-packages=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev python3 python3-ezdxf)
+packages=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev python3 python3-ezdxf netpbm)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -2,11 +2,15 @@
 // into them between start_image and end_image, which are recorded for the dialog's record.
 #include <algorithm>
 #include <cmath>
+#include <fstream>
+#include <iterator>
+#include <string>
 
 #include "adsdlg.h"
 #include "host/boundary.h"
 #include "host/dcl/dcl.h"
 #include "host/dcl/runtime.h"
+#include "host/dcl/slide_file.h"
 #include "host/dcl/tile_values.h"
 
 using host::dcl::ImageOp;
@@ -81,10 +85,21 @@ extern "C" int ads_fill_image(short x1, short y1, short x2, short y2, short colo
     });
 }
 
+// The slide is recorded by name and drawn as its vectors, fitted into the rectangle. A slide
+// that cannot be read (a missing file, a "lib(slide)" name) draws nothing, as in the editor.
 extern "C" int ads_slide_image(short x1, short y1, short x2, short y2, const ACHAR* slnam) {
     return host::guarded(__func__, RTERROR, [&]() -> int {
         if (!slnam) return RTERROR;
-        return record(ImageOp{ImageOp::Kind::Slide, x1, y1, x2, y2, 0, slnam}) ? RTNORM : RTERROR;
+        if (!record(ImageOp{ImageOp::Kind::Slide, x1, y1, x2, y2, 0, slnam})) return RTERROR;
+        std::ifstream file(host::dcl::slideFilePath(slnam), std::ios::binary);
+        const std::string bytes((std::istreambuf_iterator<char>(file)), {});
+        host::dcl::Slide slide;
+        std::wstring problem;
+        if (!file || !host::dcl::parseSlide(bytes, slide, problem)) return RTNORM;
+        auto clamp = [](int v) { return static_cast<short>(std::clamp(v, -32768, 32767)); };
+        for (const auto& v : host::dcl::fitSlide(slide, x1, y1, x2, y2))
+            record(ImageOp{ImageOp::Kind::Vector, clamp(v.x1), clamp(v.y1), clamp(v.x2), clamp(v.y2), v.color, {}});
+        return RTNORM;
     });
 }
 
