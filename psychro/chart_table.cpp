@@ -55,19 +55,23 @@ std::vector<std::wstring> stateTableLines(const std::vector<ChartStatePoint>& ta
     return lines;
 }
 
-TableDrawing layoutStateTable(const std::vector<ChartStatePoint>& table, ChartPoint topLeft, double h) {
+TableDrawing layoutStateTable(const std::vector<ChartStatePoint>& table, size_t firstRow, ChartPoint topLeft,
+                              double h) {
     TableDrawing out;
-    const size_t rows = table.size() + 1;
+    if (firstRow > table.size() || (firstRow == table.size() && firstRow > 0)) return out;
     double width = 0.0;
     for (double w : kColumnWidth) width += w * h;
-    const double rowHeight = kRowHeight * h, bottom = topLeft.y - rows * rowHeight;
-    for (size_t r = 0; r <= rows; ++r) {
+    const double rowHeight = kRowHeight * h;
+    // Text row k (0 the heads, k the k-th point) lies between rules k and k + 1.
+    const size_t fromRow = firstRow == 0 ? 0 : firstRow + 1, toRow = table.size() + 1;
+    const double upper = topLeft.y - fromRow * rowHeight, lower = topLeft.y - toRow * rowHeight;
+    for (size_t r = fromRow == 0 ? 0 : fromRow + 1; r <= toRow; ++r) {
         const double y = topLeft.y - r * rowHeight;
         out.lines.push_back({kLayerStatePoints, {{topLeft.x, y}, {topLeft.x + width, y}}, false});
     }
     double x = topLeft.x;
     for (int c = 0; c <= kStateTableColumns; ++c) {
-        out.lines.push_back({kLayerStatePoints, {{x, topLeft.y}, {x, bottom}}, false});
+        out.lines.push_back({kLayerStatePoints, {{x, upper}, {x, lower}}, false});
         if (c < kStateTableColumns) x += kColumnWidth[c] * h;
     }
     auto addRow = [&](size_t r, const std::vector<std::wstring>& cells) {
@@ -79,8 +83,8 @@ TableDrawing layoutStateTable(const std::vector<ChartStatePoint>& table, ChartPo
             left += w;
         }
     };
-    addRow(0, stateTableHeads());
-    for (size_t r = 0; r < table.size(); ++r) addRow(r + 1, stateTableCells(table[r]));
+    if (firstRow == 0) addRow(0, stateTableHeads());
+    for (size_t r = firstRow; r < table.size(); ++r) addRow(r + 1, stateTableCells(table[r]));
     return out;
 }
 

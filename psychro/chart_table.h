@@ -32,12 +32,15 @@ std::vector<std::wstring> stateTableCells(const ChartStatePoint& point);
 // One line per row, heads first, columns padded to a fixed width, for the table's viewer.
 std::vector<std::wstring> stateTableLines(const std::vector<ChartStatePoint>& table);
 
-// The table with its top-left corner at TOP_LEFT, texts of height H, on the state-point layer.
+// Rows FIRST_ROW onwards of the table whose top-left corner is TOP_LEFT, with texts of height H,
+// on the state-point layer; from row 0 with the heads. Rows drawn earlier stay as they are, so
+// a table grows downwards as points are added.
 struct TableDrawing {
     std::vector<ChartPolyline> lines;
     std::vector<ChartText> texts;
 };
-TableDrawing layoutStateTable(const std::vector<ChartStatePoint>& table, ChartPoint topLeft, double h);
+TableDrawing layoutStateTable(const std::vector<ChartStatePoint>& table, size_t firstRow, ChartPoint topLeft,
+                              double h);
 
 // Where the table goes beside a chart drawn in FRAME with text height H.
 ChartPoint stateTableCorner(const ChartFrame& frame, double h);

@@ -43,7 +43,7 @@ TEST(ChartTable, CellsAndViewerLines) {
 TEST(ChartTable, GridHoldsEveryCell) {
     const std::vector<ChartStatePoint> table{{L"N", room()}, {L"W", room()}};
     const double h = 3.0;
-    const TableDrawing t = layoutStateTable(table, {400.0, 400.0}, h);
+    const TableDrawing t = layoutStateTable(table, 0, {400.0, 400.0}, h);
     // Four horizontal rules (heads, two rows) and eight vertical ones (seven columns).
     ASSERT_EQ(t.lines.size(), 4u + 8u);
     const double right = t.lines[0].points[1].x, bottom = t.lines[3].points[0].y;
@@ -62,6 +62,28 @@ TEST(ChartTable, GridHoldsEveryCell) {
     const ChartPoint corner = stateTableCorner({0.0, 0.0, 300.0, 400.0}, h);
     EXPECT_GT(corner.x, 300.0);
     EXPECT_EQ(corner.y, 400.0);
+}
+
+TEST(ChartTable, AddedRowsContinueTheTableBelowItsLastRow) {
+    std::vector<ChartStatePoint> table{{L"N", room()}};
+    const double h = 2.0, rowHeight = 2.0 * h;
+    const TableDrawing first = layoutStateTable(table, 0, {0.0, 100.0}, h);
+    EXPECT_EQ(first.lines.size(), 3u + 8u);
+    addChartStatePoint(table, room(), L"W");
+    addChartStatePoint(table, room(), L"M");
+    const TableDrawing more = layoutStateTable(table, 1, {0.0, 100.0}, h);
+    // Two new bottom rules; the verticals span only the two new rows.
+    ASSERT_EQ(more.lines.size(), 2u + 8u);
+    EXPECT_DOUBLE_EQ(more.lines[0].points[0].y, 100.0 - 3 * rowHeight);
+    EXPECT_DOUBLE_EQ(more.lines[1].points[0].y, 100.0 - 4 * rowHeight);
+    EXPECT_DOUBLE_EQ(more.lines[2].points[0].y, 100.0 - 2 * rowHeight);
+    EXPECT_DOUBLE_EQ(more.lines[2].points[1].y, 100.0 - 4 * rowHeight);
+    ASSERT_EQ(more.texts.size(), 2u * kStateTableColumns);
+    EXPECT_EQ(more.texts[0].text, L"W");
+    EXPECT_DOUBLE_EQ(more.texts[0].at.y, 100.0 - 2.5 * rowHeight);
+    EXPECT_EQ(more.texts[kStateTableColumns].text, L"M");
+    // Nothing new: nothing drawn.
+    EXPECT_TRUE(layoutStateTable(table, 3, {0.0, 100.0}, h).lines.empty());
 }
 
 }  // namespace
