@@ -18,10 +18,7 @@
 namespace vrn2 {
 namespace {
 
-constexpr wchar_t kChartDialogFile[] = L"dwglib\\crti_dt.dcl";
 constexpr int kInputChars = 15;
-constexpr wchar_t kMsgCannotLoad[] = L"不能装载对话框.";
-constexpr wchar_t kMsgCannotCreate[] = L"不能初始化对话框.";
 constexpr wchar_t kCornerPrompt[] = L"\n焓湿图左下角: ";
 constexpr wchar_t kMsgNotDrawn[] = L"\n焓湿图未能画完.";
 
@@ -73,7 +70,7 @@ void onAccept(ads_callback_packet* packet) {
 
 void runHelp(int dclId) {
     DialogSession help(dclId);
-    if (help.create(L"i_dhlpdlg", {Channel::Alert, kMsgCannotCreate})) help.run();
+    if (help.create(L"i_dhlpdlg", {Channel::Alert, kMsgChartCannotCreate})) help.run();
 }
 
 void onHelp(ads_callback_packet* packet) { runHelp(static_cast<ChartDialog*>(packet->client_data)->dclId); }
@@ -103,11 +100,11 @@ bool drawChart(const ChartRequest& request) {
 }  // namespace
 
 int drawIdChart() {
-    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgCannotLoad});
+    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgChartCannotLoad});
     if (!dialogs.loaded()) return RTERROR;
     ChartDialog chart;
     chart.dclId = dialogs.dclId();
-    if (!dialogs.create(L"crti_dtdlg", {Channel::Alert, kMsgCannotCreate})) return RTERROR;
+    if (!dialogs.create(L"crti_dtdlg", {Channel::Alert, kMsgChartCannotCreate})) return RTERROR;
     fillDialog(dialogs.dialog());
     dialogs.action(L"accept", onAccept, &chart);
     dialogs.action(L"help", onHelp, &chart);
@@ -124,7 +121,7 @@ int drawIdChart() {
 }
 
 int idChartHelp() {
-    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgCannotLoad});
+    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgChartCannotLoad});
     if (!dialogs.loaded()) return RTERROR;
     runHelp(dialogs.dclId());
     return RTNORM;

@@ -10,14 +10,12 @@
 #include "psychro/chart_entities.h"
 #include "psychro/chart_marks.h"
 #include "psychro/chart_state.h"
+#include "psychro/id_chart_messages.h"
 #include "psychro/psychro_handlers.h"
 
 namespace vrn2 {
 namespace {
 
-constexpr wchar_t kChartDialogFile[] = L"dwglib\\crti_dt.dcl";
-constexpr wchar_t kMsgCannotLoad[] = L"不能装载对话框.";
-constexpr wchar_t kMsgCannotCreate[] = L"不能初始化对话框.";
 constexpr wchar_t kMsgNoChart[] = L"\n先生成焓湿图.";
 constexpr wchar_t kMsgNoNewPoints[] = L"\n没有新的状态点.";
 constexpr wchar_t kMsgNoTable[] = L"\n焓湿图上还没有状态点表.";
@@ -106,8 +104,8 @@ int viewStatePointTable() {
         acutPrintf(kMsgNoTable);
         return RTNORM;
     }
-    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgCannotLoad});
-    if (!dialogs.create(L"vi_dtbldlg", {Channel::Alert, kMsgCannotCreate})) return RTERROR;
+    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgChartCannotLoad});
+    if (!dialogs.create(L"vi_dtbldlg", {Channel::Alert, kMsgChartCannotCreate})) return RTERROR;
     ads_hdlg dialog = dialogs.dialog();
     ads_start_list(dialog, L"ptlist", LIST_NEW, 0);
     for (const std::wstring& line : stateTableLines(drawn.table)) ads_add_list(line.c_str());
