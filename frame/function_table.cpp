@@ -28,10 +28,10 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"t:hx_hlgzc", notAvailable<16>},  // 16
     {L"t:hx_vlgzc", notAvailable<17>},  // 17
     {L"c:ci_dt", statePoint},  // 18
-    {L"c:crti_dt", notAvailable<19>},  // 19
-    {L"c:i_dhlp", notAvailable<20>},  // 20
-    {L"c:crti_dtbl", notAvailable<21>},  // 21
-    {L"c:vi_dtbl", notAvailable<22>},  // 22
+    {L"c:crti_dt", drawIdChart},  // 19
+    {L"c:i_dhlp", idChartHelp},  // 20
+    {L"c:crti_dtbl", drawStatePointTable},  // 21
+    {L"c:vi_dtbl", viewStatePointTable},  // 22
     {L"c:v_res", viewStatePointResults},  // 23
     {L"c:constp", notAvailable<24>},  // 24
     {L"c:airmix", airMix},  // 25

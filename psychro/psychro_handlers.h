@@ -15,4 +15,10 @@ int deleteCoolerResults();     // "c:scdelres"
 int statePoint();  // "c:ci_dt"
 int airMix();      // "c:airmix"
 
+// The i-d chart and the table of state points on it
+int drawIdChart();           // "c:crti_dt"
+int idChartHelp();           // "c:i_dhlp"
+int drawStatePointTable();   // "c:crti_dtbl"
+int viewStatePointTable();   // "c:vi_dtbl"
+
 }  // namespace vrn2

@@ -11,6 +11,7 @@
 #include "frame/dialog_session.h"
 #include "frame/tile_numbers.h"
 #include "psychro/chart_marks.h"
+#include "psychro/chart_state.h"
 #include "psychro/id_chart.h"
 #include "psychro/remembered_pressure.h"
 #include "psychro/state_point_choices.h"
@@ -93,6 +94,7 @@ void onResult(ads_callback_packet* packet) {
     shown.choice = g_choice;
     if (!readInputs(packet->dialog, g_choice, shown.state)) return;
     shown.outcome = solveStatePoint(g_choice, shown.state);
+    if (shown.outcome == kOutcomeValid) keepCalculatedState(shown.state);
     runStateResultDialog(session->dclId, shown);
 }
 
@@ -140,6 +142,7 @@ void stateFromPickedPoint(const Session& session) {
     shown.state.B = chart.B;
     chartStateAt(chart, picked[X], picked[Y], shown.state.i, shown.state.d);
     shown.outcome = StateFromEnthalpyMoisture(shown.state) == RTNORM ? kOutcomeValid : kOutcomeImpossible;
+    if (shown.outcome == kOutcomeValid) keepCalculatedState(shown.state);
     if (session.markPickedPoint) markChartPoint(picked, chart.markDiameter);
     runStateResultDialog(session.dclId, shown);
 }

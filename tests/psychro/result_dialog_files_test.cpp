@@ -81,6 +81,17 @@ TEST_F(DialogFiles, StatePointFileHasTheViewingDialogs) {
     expectDialogs(L"dwglib\\ci_dt.dcl", {kResultList, {L"introduce2", {}}});
 }
 
+TEST_F(DialogFiles, ChartFileHasTheDrawingTableAndHelpDialogs) {
+    expectDialogs(L"dwglib\\crti_dt.dcl",
+                  {{L"crti_dtdlg",
+                    {{L"pressure", L"edit_box"}, {L"t_min", L"edit_box"}, {L"t_max", L"edit_box"},
+                     {L"d_min", L"edit_box"}, {L"d_max", L"edit_box"}, {L"width", L"edit_box"},
+                     {L"height", L"edit_box"}, {L"accept", L"button"}, {L"help", L"button"},
+                     {L"cancel", L"button"}, {L"error", L"text"}}},
+                   {L"vi_dtbldlg", {{L"ptlist", L"list_box"}, {L"pressure", L"text"}}},
+                   {L"i_dhlpdlg", {}}});
+}
+
 TEST_F(DialogFiles, TheResultListIsWideEnoughForAWholeRead) {
     std::wstring path = testing_support::sourceRoot() + L"dwglib/gscal.dcl";
     int id = -1;
