@@ -33,26 +33,8 @@ typedef const WCHAR* LPCTSTR;
 #define LBN_SELCHANGE 1
 #define BN_CLICKED 0
 #define EN_CHANGE 0x0300
-#define SW_HIDE 0
-#define SW_SHOW 5
-#define MB_OK 0x0
-#define MB_ICONINFORMATION 0x40
-#define IDOK 1
-#define IDCANCEL 2
 #define MAKEWPARAM(low, high) ((WPARAM)(((DWORD)(WORD)(low)) | (((DWORD)(WORD)(high)) << 16)))
 
-#ifdef __cplusplus
-extern "C" {
-#endif
-HWND GetDesktopWindow(void);
-HWND SetActiveWindow(HWND hWnd);
-BOOL ShowWindow(HWND hWnd, int nCmdShow);
-int MessageBoxW(HWND hWnd, LPCWSTR lpText, LPCWSTR lpCaption, UINT uType);
-int GetWindowTextLengthW(HWND hWnd);
-#ifdef __cplusplus
-}
-#endif
-#define MessageBox MessageBoxW
 
 // The platform's string class, reduced to what the dialogs use.
 class CString {
