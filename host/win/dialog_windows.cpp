@@ -80,13 +80,20 @@ HWND childById(HWND dialog, int id) {
     return nullptr;
 }
 
-HWND parentDialog(HWND control) {
-    for (auto& [h, wnd] : std::map<HWND, CWnd*>(state().permanent)) {
+// The dialog among the windows with module objects that holds CONTROL; the caller holds the lock.
+HWND dialogHolding(const DialogState& s, HWND control) {
+    for (auto& [h, wnd] : s.permanent) {
         (void)wnd;
         auto children = childWindows(h);
         if (std::find(children.begin(), children.end(), control) != children.end()) return h;
     }
     return nullptr;
+}
+
+HWND parentDialog(HWND control) {
+    DialogState& s = state();
+    std::lock_guard lock(s.mutex);
+    return dialogHolding(s, control);
 }
 
 // Sends the control's notification to its dialog, as the control's window procedure does.
@@ -218,15 +225,12 @@ bool click(HWND control, std::wstring& error) {
         }
         if (it->second.autoRadio) {
             // The radio buttons next to each other form a group: one of them is checked.
-            HWND dialog = nullptr;
-            for (auto& [h, wnd] : s.permanent) {
-                (void)wnd;
-                auto kids = childWindows(h);
-                if (std::find(kids.begin(), kids.end(), control) != kids.end()) dialog = h;
-            }
-            auto kids = childWindows(dialog);
+            auto kids = childWindows(dialogHolding(s, control));
             auto at = std::find(kids.begin(), kids.end(), control);
-            auto isRadio = [&](HWND h) { return s.controls.count(h) && s.controls[h].autoRadio; };
+            auto isRadio = [&](HWND h) {
+                auto c = s.controls.find(h);
+                return c != s.controls.end() && c->second.autoRadio;
+            };
             auto first = at, last = at;
             while (first != kids.begin() && isRadio(*(first - 1))) --first;
             while (last + 1 != kids.end() && isRadio(*(last + 1))) ++last;

@@ -2,6 +2,9 @@
 // a repeated command, kept in the window registry until the module is unloaded.
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <thread>
+
 #include "host/win/dialog_windows.h"
 #include "host/win/window_registry.h"
 #include "tests/support/host_session.h"
@@ -71,6 +74,39 @@ TEST_F(UnitConvWindow, ClosedWindowIsCreatedAgain) {
     call(L"c:UnitConv");
     ASSERT_NE(window(), nullptr);
     EXPECT_EQ(text(L"penc1"), L"");
+}
+
+}  // namespace
+
+namespace {
+
+// Another thread may look for the window and read its controls while the designer types.
+TEST_F(UnitConvWindow, ReadableFromAnotherThreadWhileTyping) {
+    call(L"c:UnitConv");
+    HWND open = window();
+    ASSERT_NE(open, nullptr);
+    HWND pairs = host::win::findControl(open, L"pairs");
+    HWND source = host::win::findControl(open, L"penc1");
+    std::atomic<bool> done{false};
+    std::atomic<int> reads{0};
+    std::thread reader([&] {
+        while (!done) {
+            HWND found = FindWindowW(nullptr, kTitle);
+            if (found) host::win::controlText(host::win::findControl(found, L"penc2"));
+            ++reads;
+        }
+    });
+    while (reads == 0) std::this_thread::yield();
+    std::wstring error;
+    ASSERT_TRUE(host::win::selectItem(host::win::findControl(open, L"category"), 2, error));
+    for (int i = 0; i < 200; ++i) {
+        EXPECT_TRUE(host::win::selectItem(pairs, i % 4, error));
+        EXPECT_TRUE(host::win::typeText(source, std::to_wstring(i), error));
+    }
+    done = true;
+    reader.join();
+    // The last: 199 miles is 199 x 1609.344 = 320259.456 m.
+    EXPECT_EQ(host::win::controlText(host::win::findControl(open, L"penc2")), L"320259.456");
 }
 
 }  // namespace
