@@ -70,14 +70,20 @@ void attach(HWND h, CWnd* wnd) {
     wnd->m_hWnd = h;
 }
 
-HWND childById(HWND dialog, int id) {
+// The first child control of DIALOG that MATCHES, or null.
+template <class Match>
+HWND findChild(HWND dialog, Match matches) {
     DialogState& s = state();
     std::lock_guard lock(s.mutex);
     for (HWND child : childWindows(dialog)) {
         auto it = s.controls.find(child);
-        if (it != s.controls.end() && it->second.id == id) return child;
+        if (it != s.controls.end() && matches(it->second)) return child;
     }
     return nullptr;
+}
+
+HWND childById(HWND dialog, int id) {
+    return findChild(dialog, [&](const Control& c) { return c.id == id; });
 }
 
 // The dialog among the windows with module objects that holds CONTROL; the caller holds the lock.
@@ -169,13 +175,7 @@ void windowsDestroyed(const std::vector<HWND>& windows) {
 }
 
 HWND findControl(HWND dialog, const std::wstring& name) {
-    DialogState& s = state();
-    std::lock_guard lock(s.mutex);
-    for (HWND child : childWindows(dialog)) {
-        auto it = s.controls.find(child);
-        if (it != s.controls.end() && it->second.name == name) return child;
-    }
-    return nullptr;
+    return findChild(dialog, [&](const Control& c) { return c.name == name; });
 }
 
 bool selectItem(HWND control, int index, std::wstring& error) {
