@@ -63,6 +63,13 @@ typedef struct HINSTANCE__* HINSTANCE;
 #define WM_GETFONT 0x0031
 #define WM_CLOSE 0x0010
 
+#define SW_HIDE 0
+#define SW_SHOW 5
+#define MB_OK 0x0
+#define MB_ICONINFORMATION 0x40
+#define IDOK 1
+#define IDCANCEL 2
+
 #define FW_NORMAL 400
 #define GB2312_CHARSET 134
 #define OUT_DEFAULT_PRECIS 0
@@ -100,6 +107,11 @@ BOOL IsWindow(HWND hWnd);
 BOOL DestroyWindow(HWND hWnd);
 int GetWindowTextW(HWND hWnd, LPWSTR lpString, int nMaxCount);
 BOOL SetWindowTextW(HWND hWnd, LPCWSTR lpString);
+HWND GetDesktopWindow(void);
+HWND SetActiveWindow(HWND hWnd);
+BOOL ShowWindow(HWND hWnd, int nCmdShow);
+int MessageBoxW(HWND hWnd, LPCWSTR lpText, LPCWSTR lpCaption, UINT uType);
+int GetWindowTextLengthW(HWND hWnd);
 
 HFONT CreateFontW(int cHeight, int cWidth, int cEscapement, int cOrientation, int cWeight,
                   DWORD bItalic, DWORD bUnderline, DWORD bStrikeOut, DWORD iCharSet,
@@ -127,6 +139,7 @@ int MultiByteToWideChar(UINT CodePage, DWORD dwFlags, const char* lpMultiByteStr
 
 #define FindWindow FindWindowW
 #define SendMessage SendMessageW
+#define MessageBox MessageBoxW
 #define CreateFont CreateFontW
 #define RegOpenKeyEx RegOpenKeyExW
 #define RegQueryValueEx RegQueryValueExW

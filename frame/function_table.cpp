@@ -5,6 +5,7 @@
 #include "frame/frame_handlers.h"
 #include "frame/not_available.h"
 #include "psychro/psychro_handlers.h"
+#include "units/units_handlers.h"
 
 namespace vrn2 {
 
@@ -71,7 +72,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"_SetDlgFont", setDialogFont},  // 59
     {L"_FindMC", notAvailable<60>},  // 60
     {L"_Xscjx", viewCorners},  // 61
-    {L"c:UnitConv", notAvailable<62>},  // 62
+    {L"c:UnitConv", unitConversion},  // 62
 };
 
 }  // namespace vrn2

@@ -88,6 +88,18 @@ Headless forms:
                               Enter. A reply the request refuses prints the editor's message
                               (for example "Requires numeric value." or "Value must be
                               positive and nonzero.") and the request takes the next one.
+  (host-window TITLE ACTIONS) act now on the open modeless window TITLE (a dialog the module
+                              created, such as "单位换算"). ACTIONS is a list, applied in order,
+                              of (select CONTROL INDEX): choose item INDEX (from 0) of a combo
+                              box or list box; (set CONTROL TEXT): type TEXT into an edit, whose
+                              change handler runs; (click CONTROL): click a button or radio
+                              button. Each runs the window's handler as the control's
+                              notification would. A message box the window shows is printed
+                              like an alert. CONTROL is the control's resource name, a string.
+  (host-window-text TITLE CONTROL)
+                              the text a control of window TITLE shows (an edit's contents, a
+                              label, the selected item of a list), or nil when the window or
+                              the control does not exist
   An empty pick or reply queue answers as a cancelled request (RTCAN; in AutoLISP the
   error "Function cancelled").
 

@@ -42,6 +42,7 @@ Interpreter::Interpreter() {
     addSystemBuiltins(*this);
     addDrawingBuiltins(*this);
     addHeadlessBuiltins(*this);
+    addWindowBuiltins(*this);
     addInputBuiltins(*this);
 }
 

@@ -48,6 +48,7 @@ void addSystemBuiltins(Interpreter& in);     // system variables, commands, geom
 void addDrawingBuiltins(Interpreter& in);   // entities and selection sets
 void addHeadlessBuiltins(Interpreter& in);  // host-dialog, host-entsel, host-getpoint, host-input
 void addInputBuiltins(Interpreter& in);     // initget and the get-functions
+void addWindowBuiltins(Interpreter& in);    // host-window, host-window-text
 
 // Argument helpers for built-ins.
 void expectCount(const std::vector<ValuePtr>& args, size_t min, size_t max);

@@ -1,4 +1,5 @@
 #include "host/win/window_registry.h"
+#include "host/win/dialog_windows.h"
 
 #include <algorithm>
 #include <atomic>
@@ -146,17 +147,21 @@ extern "C" BOOL EnumChildWindows(HWND hWndParent, WNDENUMPROC lpEnumFunc, LPARAM
     });
 }
 
-extern "C" LRESULT SendMessageW(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM) {
+extern "C" LRESULT SendMessageW(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lParam) {
     return host::guarded(__func__, 0, [&]() -> LRESULT {
         Registry& r = reg();
-        std::lock_guard lock(r.mutex);
-        auto it = r.windows.find(key(hWnd));
-        if (it == r.windows.end()) return 0;
-        switch (Msg) {
-        case WM_SETFONT: it->second.font = reinterpret_cast<HFONT>(wParam); return 0;
-        case WM_GETFONT: return reinterpret_cast<LRESULT>(it->second.font);
-        default: return 0;
+        if (Msg == WM_SETFONT || Msg == WM_GETFONT) {
+            std::lock_guard lock(r.mutex);
+            auto it = r.windows.find(key(hWnd));
+            if (it == r.windows.end()) return 0;
+            if (Msg == WM_GETFONT) return reinterpret_cast<LRESULT>(it->second.font);
+            it->second.font = reinterpret_cast<HFONT>(wParam);
+            return 0;
         }
+        // The standard controls and the dialogs' commands answer outside the registry's lock:
+        // a command runs the dialog's handler, which calls back in here.
+        LRESULT result = 0;
+        return IsWindow(hWnd) && controlMessage(hWnd, Msg, wParam, lParam, result) ? result : 0;
     });
 }
 
@@ -171,10 +176,17 @@ extern "C" BOOL IsWindow(HWND hWnd) {
 extern "C" BOOL DestroyWindow(HWND hWnd) {
     return host::guarded(__func__, FALSE, [&]() -> BOOL {
         Registry& r = reg();
-        std::lock_guard lock(r.mutex);
-        uintptr_t k = key(hWnd);
-        if (!r.windows.count(k)) return FALSE;
-        std::erase_if(r.windows, [&](auto& kv) { return kv.first == k || isDescendant(r, kv.first, k); });
+        std::vector<HWND> destroyed;
+        {
+            std::lock_guard lock(r.mutex);
+            uintptr_t k = key(hWnd);
+            if (!r.windows.count(k)) return FALSE;
+            for (auto& [wk, w] : r.windows)
+                if (wk == k || isDescendant(r, wk, k)) destroyed.push_back(handle(wk));
+            std::erase_if(r.windows, [&](auto& kv) { return kv.first == k || isDescendant(r, kv.first, k); });
+        }
+        // The dialog objects learn it after the lock is gone: a modeless one deletes itself.
+        windowsDestroyed(destroyed);
         return TRUE;
     });
 }
