@@ -27,16 +27,23 @@ std::wstring chosenItems(const dcl::TileRecord& t) {
     return out;
 }
 
+std::wstring trimmed(const std::wstring& s) {
+    size_t first = s.find_first_not_of(L' '), last = s.find_last_not_of(L' ');
+    return first == std::wstring::npos ? std::wstring() : s.substr(first, last - first + 1);
+}
+
 // One tile as a line; empty for tiles that show nothing (spacers, unlabelled columns).
-std::wstring tileLine(const dcl::TileRecord& t) {
+std::wstring tileLine(const dcl::TileRecord& tile) {
+    dcl::TileRecord t = tile;  // labels are padded with spaces to line up in the layout
+    t.label = trimmed(t.label);
     const std::wstring& kind = t.kind;
     std::wstring line;
     if (kind == L"button" || kind == L"image_button") line = L"[ " + (t.label.empty() ? t.key : t.label) + L" ]";
     else if (kind == L"toggle") line = (t.value == L"1" ? L"[x] " : L"[ ] ") + t.label;
     else if (kind == L"radio_button") line = (t.value == L"1" ? L"(o) " : L"( ) ") + t.label;
-    else if (kind == L"text") line = t.value.empty() ? t.label : t.value;
-    else if (kind == L"edit_box" || kind == L"slider") line = t.label + L" [" + t.value + L"]";
-    else if (kind == L"popup_list" || kind == L"list_box") line = t.label + L" <" + chosenItems(t) + L">";
+    else if (kind == L"text") line = trimmed(t.value.empty() ? t.label : t.value);
+    else if (kind == L"edit_box" || kind == L"slider") line = trimmed(t.label + L" [" + t.value + L"]");
+    else if (kind == L"popup_list" || kind == L"list_box") line = trimmed(t.label + L" <" + chosenItems(t) + L">");
     else if (kind == L"image") line = L"(picture of " + std::to_wstring(t.image.size()) + L" strokes)";
     else if ((kind == L"cluster" || kind == L"radio_cluster") && !t.label.empty()) line = L"-- " + t.label + L" --";
     if (line.empty()) return line;
