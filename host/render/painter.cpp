@@ -7,6 +7,7 @@
 #include "host/db/entity_lists.h"
 #include "host/db/shapes.h"
 #include "host/render/aci.h"
+#include "host/render/entry_groups.h"
 
 namespace host::render {
 namespace {
@@ -15,11 +16,6 @@ constexpr double kPi = 3.14159265358979323846;
 constexpr int kMaxNesting = 8;            // references inside blocks inside blocks ...
 constexpr double kThinnestLinePx = 1.0;   // a line of weight 0 still shows
 constexpr double kPointPx = 2.0;          // a POINT entity's dot
-
-double real(const db::GroupList& g, int code, double fallback) {
-    const db::Group* x = db::findCode(g, code);
-    return x ? x->real : fallback;
-}
 
 // The width of a wide polyline in drawing units: its constant width, else the widest of its
 // segments' start and end widths (a taper is drawn at that width). 0 for a thin one.
@@ -31,7 +27,7 @@ double polylineWidth(const db::Database& db, uint32_t index, const std::string& 
             if (group.code == 40 || group.code == 41) widest = std::max(widest, group.real);
         return widest;
     }
-    double widest = std::max(real(g, 40, 0.0), real(g, 41, 0.0));
+    double widest = std::max(realOr(g, 40, 0.0), realOr(g, 41, 0.0));
     const db::Record& head = db.record(index);
     const auto& list = db::listOf(db, head);
     for (size_t i = static_cast<size_t>(head.pos) + 1; i < list.size(); ++i) {
@@ -40,7 +36,7 @@ double polylineWidth(const db::Database& db, uint32_t index, const std::string& 
         if (db.typeName(r) != "VERTEX") continue;
         db::GroupList vertex;
         db::decodeGroups(db, r.groups, vertex, nullptr);
-        widest = std::max({widest, real(vertex, 40, 0.0), real(vertex, 41, 0.0)});
+        widest = std::max({widest, realOr(vertex, 40, 0.0), realOr(vertex, 41, 0.0)});
     }
     return widest;
 }
@@ -94,8 +90,8 @@ void Painter::paintInsert(const db::GroupList& g, const Pen& pen, int depth) {
     const db::Group* at = db::findCode(g, 10);
     cairo_save(cr_);
     if (at) cairo_translate(cr_, at->point[0], at->point[1]);
-    cairo_rotate(cr_, real(g, 50, 0.0) * kPi / 180.0);
-    double sx = real(g, 41, 1.0), sy = real(g, 42, 1.0);
+    cairo_rotate(cr_, realOr(g, 50, 0.0) * kPi / 180.0);
+    double sx = realOr(g, 41, 1.0), sy = realOr(g, 42, 1.0);
     if (sx != 0.0 && sy != 0.0) cairo_scale(cr_, sx, sy);
     if (base) cairo_translate(cr_, -base->point[0], -base->point[1]);
     for (uint32_t e : db_.blocks()[block].entities) paintEntity(e, pen, depth + 1);

@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "host/db/database.h"
+#include "host/render/entry_groups.h"
 
 namespace host::render {
 namespace {
@@ -21,11 +21,9 @@ struct LayerLook {
 
 LayerLook layerLook(const db::Database& db, const db::GroupList& g) {
     LayerLook look;
-    const db::Group* name = db::findCode(g, 8);
-    uint32_t entry = db.findEntry("LAYER", name ? name->text : L"0");
-    if (entry == db::kNone) return look;
-    db::GroupList layer;
-    db::decodeGroups(db, db.record(entry).groups, layer, nullptr);
+    std::optional<db::GroupList> entry = namedEntry(db, "LAYER", g, 8, L"0");
+    if (!entry) return look;
+    const db::GroupList& layer = *entry;
     if (const db::Group* c = db::findCode(layer, 62)) {
         look.visible = c->integer >= 0;
         look.colour = static_cast<int>(std::llabs(c->integer));

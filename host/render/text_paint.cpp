@@ -8,6 +8,7 @@
 
 #include "host/db/database.h"
 #include "host/db/shapes.h"
+#include "host/render/entry_groups.h"
 #include "host/render/mtext_plain.h"
 #include "host/text.h"
 
@@ -18,11 +19,6 @@ constexpr double kPi = 3.14159265358979323846;
 constexpr double kMTextLineSpacing = 5.0 / 3.0;  // baseline to baseline, in text heights
 // A sans-serif face that has the Chinese characters; Latin letters are in it as well.
 constexpr char kFontPattern[] = "sans-serif:lang=zh-cn";
-
-double real(const db::GroupList& g, int code, double fallback) {
-    const db::Group* x = db::findCode(g, code);
-    return x ? x->real : fallback;
-}
 
 long long integer(const db::GroupList& g, int code) {
     const db::Group* x = db::findCode(g, code);
@@ -82,14 +78,12 @@ Lettering::~Lettering() { cairo_font_face_destroy(face_); }
 
 Lettering::Look Lettering::styleLook(const db::Database& db, const db::GroupList& g) const {
     Look look;
-    const db::Group* name = db::findCode(g, 7);
-    uint32_t entry = db.findEntry("STYLE", name ? name->text : L"STANDARD");
-    if (entry == db::kNone) return look;
-    db::GroupList style;
-    db::decodeGroups(db, db.record(entry).groups, style, nullptr);
-    look.height = real(style, 40, 0.0);
-    look.widthFactor = real(style, 41, 1.0);
-    look.oblique = real(style, 50, 0.0) * kPi / 180.0;
+    std::optional<db::GroupList> entry = namedEntry(db, "STYLE", g, 7, L"STANDARD");
+    if (!entry) return look;
+    const db::GroupList& style = *entry;
+    look.height = realOr(style, 40, 0.0);
+    look.widthFactor = realOr(style, 41, 1.0);
+    look.oblique = realOr(style, 50, 0.0) * kPi / 180.0;
     return look;
 }
 
@@ -108,11 +102,11 @@ void Lettering::paintText(cairo_t* cr, const db::Database& db, const db::GroupLi
     if (!content || content->text.empty()) return;
     std::string utf8 = toUtf8(content->text);
     Look style = styleLook(db, g);
-    double height = real(g, 40, 0.0);
+    double height = realOr(g, 40, 0.0);
     if (height <= 0.0) height = style.height > 0.0 ? style.height : 2.5;
-    double widthFactor = real(g, 41, style.widthFactor);
-    double oblique = db::findCode(g, 51) ? real(g, 51, 0.0) * kPi / 180.0 : style.oblique;
-    double angle = real(g, 50, 0.0) * kPi / 180.0;
+    double widthFactor = realOr(g, 41, style.widthFactor);
+    double oblique = db::findCode(g, 51) ? realOr(g, 51, 0.0) * kPi / 180.0 : style.oblique;
+    double angle = realOr(g, 50, 0.0) * kPi / 180.0;
     long long horizontal = integer(g, 72), vertical = integer(g, 73);
     db::P2 first = point(g, 10), second = point(g, 11);
     bool fitted = horizontal == 3 || horizontal == 5;  // aligned or fit between the two points
@@ -154,10 +148,10 @@ void Lettering::paintMText(cairo_t* cr, const db::Database& db, const db::GroupL
     if (const db::Group* last = db::findCode(g, 1)) formatted += last->text;
     std::vector<std::wstring> lines = mtextLines(formatted);
     Look style = styleLook(db, g);
-    double height = real(g, 40, 0.0);
+    double height = realOr(g, 40, 0.0);
     if (height <= 0.0) height = style.height > 0.0 ? style.height : 2.5;
     db::P2 at = point(g, 10);
-    double angle = real(g, 50, 0.0);
+    double angle = realOr(g, 50, 0.0);
     if (!db::findCode(g, 50) && db::findCode(g, 11)) {
         db::P2 direction = point(g, 11);
         angle = std::atan2(direction.y, direction.x);

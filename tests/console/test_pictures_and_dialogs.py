@@ -93,6 +93,19 @@ def near(rows, x, y, colour, reach=1):
                for i in range(x - reach, x + reach + 1))
 
 
+def render(*expressions):
+    """Runs the expressions in a fresh folder with --render and reads the PNG back."""
+    with tempfile.TemporaryDirectory() as d:
+        picture = os.path.join(d, "picture.png")
+        code, out, err = run(d, "--render", picture, *exprs(*expressions))
+        assert code == 0, err
+        return read_png(picture)
+
+
+def coloured(rows, colour):
+    return [(x, y) for y, row in enumerate(rows) for x, pixel in enumerate(row) if pixel == colour]
+
+
 RED_LINE = ['(command "LAYER" "M" "RED" "C" "1" "" "")',
             '(command "LINE" \'(0 0) \'(100 50) "")']
 
@@ -139,24 +152,33 @@ class LineOnARedLayer(unittest.TestCase):
 
 
 class TextsBlocksAndScreenGraphics(unittest.TestCase):
+    FRAME = ['(entmake \'((0 . "POINT") (8 . "0") (10 -5 -5 0)))',
+             '(entmake \'((0 . "POINT") (8 . "0") (10 45 15 0)))']
+
+    def assert_lettered_in(self, rows, width, height, colour, box):
+        """Glyph strokes in the colour, inside the plan box (x0, y0, x1, y1) give or take 30 %
+        of its height, and nowhere else."""
+        at = plan_to_picture(((-5, -5), (45, 15)), width, height)
+        (left, bottom), (right, top) = at(box[0], box[1]), at(box[2], box[3])
+        strokes = coloured(rows, colour)
+        self.assertGreater(len(strokes), 1000)  # strokes of several characters, not a smudge
+        slack = 0.3 * (bottom - top)
+        self.assertGreater(min(y for _, y in strokes), top - slack)
+        self.assertLess(max(y for _, y in strokes), bottom + slack)
+        self.assertGreater(min(x for x, _ in strokes), left - 5)
+
     def test_chinese_text_on_a_blue_layer_is_lettered(self):
-        with tempfile.TemporaryDirectory() as d:
-            picture = os.path.join(d, "text.png")
-            code, out, err = run(d, "--render", picture, *exprs(
-                '(command "LAYER" "M" "NOTE" "C" "5" "" "")',
-                '(command "TEXT" \'(0 0) 10 0 "暖通空调")',
-                '(entmake \'((0 . "POINT") (8 . "0") (10 -5 -5 0)))',
-                '(entmake \'((0 . "POINT") (8 . "0") (10 45 15 0)))'))
-            self.assertEqual(code, 0, err)
-            width, height, rows = read_png(picture)
-            at = plan_to_picture(((-5, -5), (45, 15)), width, height)
-            (left, bottom), (right, top) = at(0, 0), at(40, 10)
-            blue = [(x, y) for y in range(height) for x in range(width) if rows[y][x] == (0, 0, 255)]
-            self.assertGreater(len(blue), 2000)  # strokes of four characters, not a smudge
-            # The glyphs lie on the text's baseline and reach about its height above it.
-            self.assertGreater(min(y for _, y in blue), top - 0.3 * (bottom - top))
-            self.assertLess(max(y for _, y in blue), bottom + 0.3 * (bottom - top))
-            self.assertGreater(min(x for x, _ in blue), left - 5)
+        width, height, rows = render('(command "LAYER" "M" "NOTE" "C" "5" "" "")',
+                                     '(command "TEXT" \'(0 0) 10 0 "暖通空调")', *self.FRAME)
+        # The glyphs stand on the baseline and reach about the text's height above it.
+        self.assert_lettered_in(rows, width, height, (0, 0, 255), (0, 0, 40, 10))
+
+    def test_mtext_lines_hang_from_the_top_left_corner(self):
+        width, height, rows = render(
+            '(entmake \'((0 . "MTEXT") (100 . "AcDbEntity") (8 . "0") (62 . 3) (100 . "AcDbMText")'
+            ' (10 0 10 0) (40 . 3.0) (71 . 1) (1 . "{\\\\fSimSun;送风}\\\\P回风 Return")))', *self.FRAME)
+        # Two lines of 3 units from the corner down: the second baseline 3 + 5 below the top.
+        self.assert_lettered_in(rows, width, height, (0, 255, 0), (0, 10 - 8, 30, 10))
 
     def test_block_contents_are_placed_scaled_and_turned(self):
         with tempfile.TemporaryDirectory() as d:
@@ -178,15 +200,11 @@ class TextsBlocksAndScreenGraphics(unittest.TestCase):
             self.assertFalse(near(rows, *at(60, 0.5), RED, reach=3))  # not drawn unturned
 
     def test_lettering_of_the_session_is_drawn_over_the_drawing(self):
-        with tempfile.TemporaryDirectory() as d:
-            picture = os.path.join(d, "screen.png")
-            code, out, err = run(d, "--render", picture, *exprs('(t:draw-hz 20 20 1.0 1 "" "暖通")'))
-            self.assertEqual(code, 0, err)
-            width, height, rows = read_png(picture)
-            red = [(x, y) for y in range(height) for x in range(width) if rows[y][x] == RED]
-            self.assertGreater(len(red), 20)
-            # Two 16-pixel characters from the screen point (20, 20).
-            self.assertTrue(all(20 <= x < 52 and 20 <= y < 36 for x, y in red))
+        width, height, rows = render('(t:draw-hz 20 20 1.0 1 "" "暖通")')
+        red = coloured(rows, RED)
+        self.assertGreater(len(red), 20)
+        # Two 16-pixel characters from the screen point (20, 20).
+        self.assertTrue(all(20 <= x < 52 and 20 <= y < 36 for x, y in red))
 
 
 class PictureFiles(unittest.TestCase):
