@@ -6,8 +6,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/console/dialog_view.h"
@@ -59,6 +61,7 @@ Options:
                      command line does (repeatable)
   -h, --help         show this text
   --version          show the version
+Values may also be written --OPTION=VALUE.
 
 Output: what the module prints on the command line goes to standard output as printed;
 every alert is a line "[alert] TEXT"; an application error is a line
@@ -147,7 +150,17 @@ bool addRegistryLine(const std::string& line, Options& o) {
 int parseOptions(int argc, char** argv, Options& o) {
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
+        // --OPTION=VALUE is the same as --OPTION VALUE, as airstate takes it.
+        std::optional<std::string> inlineValue;
+        if (size_t eq = a.find('='); a.rfind("--", 0) == 0 && eq != std::string::npos) {
+            inlineValue = a.substr(eq + 1);
+            a.resize(eq);
+        }
         auto value = [&](std::string& into) {
+            if (inlineValue) {
+                into = *std::exchange(inlineValue, std::nullopt);
+                return true;
+            }
             if (i + 1 >= argc) return false;
             into = argv[++i];
             return true;
@@ -196,6 +209,7 @@ int parseOptions(int argc, char** argv, Options& o) {
         } else {
             o.steps.push_back({false, a});
         }
+        if (inlineValue) return usageError(a + " takes no value");
     }
     return -1;
 }

@@ -259,5 +259,27 @@ class DialogsShown(unittest.TestCase):
             self.assertNotIn("+--", out)
 
 
+class OptionStyle(unittest.TestCase):
+    """The options read as airstate's do: --OPTION VALUE or --OPTION=VALUE, --version."""
+
+    def test_equals_form(self):
+        with tempfile.TemporaryDirectory() as d:
+            picture = os.path.join(d, "eq.png")
+            code, out, err = run(d, "--render=" + picture, "-e", "(princ (getvar \"DWGNAME\"))")
+            self.assertEqual(code, 0, err)
+            self.assertTrue(os.path.isfile(picture))
+
+    def test_a_flag_with_a_value_is_refused(self):
+        with tempfile.TemporaryDirectory() as d:
+            code, out, err = run(d, "--show-dialogs=yes")
+            self.assertEqual(code, 2)
+            self.assertIn("adscon: --show-dialogs takes no value", err)
+
+    def test_version(self):
+        p = subprocess.run([ADSCON, "--version"], capture_output=True, text=True)
+        self.assertEqual(p.returncode, 0)
+        self.assertRegex(p.stdout, r"^adscon \d+\.\d+\.\d+\n$")
+
+
 if __name__ == "__main__":
     unittest.main()
