@@ -52,9 +52,10 @@ Options:
                      exists once any value under it is given
   --reg-file FILE    read NAME=VALUE lines (UTF-8) for the suite's registry key
   --module FILE      the module to load (default: lib/vrn2/Vrn2.so of the installation)
-  --render FILE      when everything ran, draw the drawing with the screen graphics of the
-                     run over it into FILE: a PNG, SVG or PDF picture by its extension;
-                     prints "Picture: FILE"
+  --render FILE      at the end of the run, draw model space fitted to the picture (colours
+                     by layer, line weights, texts, block contents) with the run's temporary
+                     screen graphics over it (in pixels from the top left corner) into FILE:
+                     a PNG, SVG or PDF picture by its extension; prints "Picture: FILE"
   --show-dialogs     print each dialog as it closes: its title and its tiles with their
                      labels and values at that moment
   -e EXPR            evaluate an AutoLISP expression and echo its value as the editor's
