@@ -14,7 +14,7 @@ import re
 import sys
 
 # Bottom to top; "" is the base: the files directly in host/.
-LAYERS = ["", "win", "db", "dcl", "runtime", "commands", "lisp", "console"]
+LAYERS = ["", "win", "db", "dcl", "runtime", "commands", "lisp", "render", "console"]
 MODULE_FOLDERS = ["frame", "psychro", "duct", "coil", "drawing", "units"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 # An exported definition and the first lines of its body.

@@ -6,7 +6,8 @@ here=$(cd "$(dirname "$0")/.." && pwd)
 build="$here/build"
 what=${1:-example}
 
-packages=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev python3 python3-ezdxf netpbm)
+packages=(cmake ninja-build g++ pkg-config libcairo2-dev fonts-wqy-microhei libgtest-dev libgmock-dev
+          libbenchmark-dev python3 python3-ezdxf netpbm)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
@@ -20,23 +21,25 @@ if [ ${#missing[@]} -gt 0 ]; then
 fi
 
 cmake -S "$here" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
-cmake --build "$build" -j"$(nproc)"
 
 case "$what" in
   example)
+    # Just what the example runs: the console and the module.
+    cmake --build "$build" -j"$(nproc)" --target adscon Vrn2
     out="$build/example-run"
     mkdir -p "$out"
     # Result files are appended to; start from none so the run shows just its own results.
     rm -f "$out/wair002.txt" "$out/gscal.txt"
-    "$build/adscon" --cwd "$out" --reg 'SysPath=C:\Vornex\' \
+    "$build/adscon" --cwd "$out" --reg 'SysPath=C:\Vornex\' --render "$out/example.png" \
       "$here/examples/first-steps.lsp" "$here/examples/air-calculations.lsp"
     for f in gscal.txt wair002.txt; do
       printf '\n\n===== %s =====\n' "$out/$f"
       cat "$out/$f"
     done
-    echo
+    printf '\n\n===== picture of the drawing: %s\n' "$out/example.png"
     ;;
   test)
+    cmake --build "$build" -j"$(nproc)"
     cd "$build" && ctest --output-on-failure -j"$(nproc)"
     ;;
   *)

@@ -6,14 +6,20 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "host/console/dialog_view.h"
+#include "host/console/install_layout.h"
 #include "host/db/database.h"
 #include "host/dcl/dialog_script.h"
 #include "host/lisp/interpreter.h"
 #include "host/output.h"
+#include "host/render/picture.h"
+#include "host/runtime/screen.h"
 #include "host/runtime/host.h"
 #include "host/runtime/input.h"
 #include "host/text.h"
@@ -35,8 +41,8 @@ expressions and scripts in the order given, and saves the drawing.
 
 Options:
   --root DIR         installation root of the suite; sets the AutoLISP symbol _DRV to DIR
-                     with a trailing separator (default: the project's own tree, which
-                     holds dwglib/, datlib/ and system/)
+                     with a trailing separator (default: share/vrn2/ of the installation
+                     adscon runs from, which holds dwglib/, datlib/ and system/)
   --drawing FILE     open this DXF drawing (default: a new, empty drawing)
   --save FILE        save the drawing as DXF when everything ran (a temporary file is
                      written and renamed, so a failed save leaves FILE as it was)
@@ -45,10 +51,18 @@ Options:
                      HKEY_LOCAL_MACHINE\SOFTWARE\Morvell\Vornex\6.0 (repeatable); the key
                      exists once any value under it is given
   --reg-file FILE    read NAME=VALUE lines (UTF-8) for the suite's registry key
-  --module FILE      the module to load (default: Vrn2.so beside adscon)
+  --module FILE      the module to load (default: lib/vrn2/Vrn2.so of the installation)
+  --render FILE      at the end of the run, draw model space fitted to the picture (colours
+                     by layer, line weights, texts, block contents) with the run's temporary
+                     screen graphics over it (in pixels from the top left corner) into FILE:
+                     a PNG, SVG or PDF picture by its extension; prints "Picture: FILE"
+  --show-dialogs     print each dialog as it closes: its title and its tiles with their
+                     labels and values at that moment
   -e EXPR            evaluate an AutoLISP expression and echo its value as the editor's
                      command line does (repeatable)
   -h, --help         show this text
+  --version          show the version
+Values may also be written --OPTION=VALUE.
 
 Output: what the module prints on the command line goes to standard output as printed;
 every alert is a line "[alert] TEXT"; an application error is a line
@@ -118,6 +132,8 @@ struct Options {
     std::string save;
     std::string cwd;
     std::string module;
+    std::string render;
+    bool showDialogs = false;
     std::vector<std::pair<std::string, std::string>> registry;
     std::vector<Step> steps;
 };
@@ -147,7 +163,17 @@ bool addRegistryLine(const std::string& line, Options& o) {
 int parseOptions(int argc, char** argv, Options& o) {
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
+        // --OPTION=VALUE is the same as --OPTION VALUE, as airstate takes it.
+        std::optional<std::string> inlineValue;
+        if (size_t eq = a.find('='); a.rfind("--", 0) == 0 && eq != std::string::npos) {
+            inlineValue = a.substr(eq + 1);
+            a.resize(eq);
+        }
         auto value = [&](std::string& into) {
+            if (inlineValue) {
+                into = *std::exchange(inlineValue, std::nullopt);
+                return true;
+            }
             if (i + 1 >= argc) return false;
             into = argv[++i];
             return true;
@@ -156,6 +182,15 @@ int parseOptions(int argc, char** argv, Options& o) {
         if (a == "-h" || a == "--help") {
             std::cout << kHelp;
             return kExitOk;
+        } else if (a == "--version") {
+            std::cout << "adscon " << VRN2_VERSION << "\n";
+            return kExitOk;
+        } else if (a == "--show-dialogs") {
+            o.showDialogs = true;
+        } else if (a == "--render") {
+            if (!value(o.render)) return usageError("--render needs a file");
+            if (!render::knownPictureType(o.render)) return usageError("--render: a picture is a .png, .svg or .pdf file");
+            o.render = fs::absolute(o.render).string();  // before --cwd moves the current folder
         } else if (a == "--root") {
             if (!value(o.root)) return usageError("--root needs a folder");
         } else if (a == "--drawing") {
@@ -187,14 +222,9 @@ int parseOptions(int argc, char** argv, Options& o) {
         } else {
             o.steps.push_back({false, a});
         }
+        if (inlineValue) return usageError(a + " takes no value");
     }
     return -1;
-}
-
-std::string executableFolder() {
-    std::error_code ec;
-    fs::path self = fs::read_symlink("/proc/self/exe", ec);
-    return ec ? std::string(".") : self.parent_path().string();
 }
 
 // Evaluates one step; false when an AutoLISP error stopped it.
@@ -225,7 +255,10 @@ int main(int argc, char** argv) {
         if (!o.steps[i].isExpression && !readFile(o.steps[i].text, scripts[i]))
             return usageError("cannot read script " + o.steps[i].text);
 
-    std::string root = o.root.empty() ? std::string(VRN2_SOURCE_ROOT) : o.root;
+    console::InstallLayout layout =
+        console::findInstallLayout(console::programFolder(), VRN2_SOURCE_ROOT, VRN2_DEFAULT_MODULE);
+    std::string root = o.root.empty() ? layout.root : o.root;
+    if (root.empty()) return usageError("no installation tree found beside adscon; give --root");
     if (!fs::is_directory(root)) return usageError("installation root is not a folder: " + root);
     if (root.back() != '/' && root.back() != '\\') root += '/';
 
@@ -255,13 +288,15 @@ int main(int argc, char** argv) {
     Document& doc = h.openDocument(drawingName, std::move(database));
     doc.symbols()[L"_DRV"] = lisp::makeStr(fromUtf8(root));
 
-    std::string modulePath = o.module.empty() ? executableFolder() + "/" + VRN2_DEFAULT_MODULE : o.module;
+    std::string modulePath = o.module.empty() ? layout.module : o.module;
     std::wstring error;
     if (!h.loadModule(modulePath, error)) {
         std::cerr << "adscon: " << toUtf8(error) << "\n";
         return kExitUsage;
     }
 
+    if (o.showDialogs)
+        dcl::onDialogClosed([](const dcl::DialogRecord& d) { emit(OutputKind::CommandLine, L"\n" + console::dialogView(d)); });
     lisp::Interpreter interpreter;
     int status = kExitOk;
     for (size_t i = 0; i < o.steps.size(); ++i) {
@@ -281,6 +316,16 @@ int main(int argc, char** argv) {
             std::cerr << "adscon: drawing not saved: the run stopped with an error\n";
         } else if (!h.current().database().save(o.save, error)) {
             std::cerr << "adscon: cannot save " << o.save << ": " << toUtf8(error) << "\n";
+            status = kExitUsage;
+        }
+    }
+    if (!o.render.empty()) {
+        // The picture is made whatever the outcome: it shows the drawing as the run left it.
+        fs::path picture = o.render;
+        if (render::renderPicture(h.current().database(), screenVectors(), picture, error)) {
+            std::cout << "Picture: " << picture.string() << "\n";
+        } else {
+            std::cerr << "adscon: " << toUtf8(error) << "\n";
             status = kExitUsage;
         }
     }

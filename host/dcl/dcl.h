@@ -87,6 +87,9 @@ const std::vector<DialogRecord>& dialogHistory();
 void clearDialogHistory();
 // The most recent record of dialog NAME; null when it never ran.
 const DialogRecord* lastDialog(std::wstring_view name);
+// Called with each dialog's record as it closes (after the record joins the history), so that
+// a console can show it where it happened in the run; an empty function stops the calls.
+void onDialogClosed(std::function<void(const DialogRecord&)> listener);
 
 // Names of the dialogs started and still open, outermost first.
 std::vector<std::wstring> openDialogNames();

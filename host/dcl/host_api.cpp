@@ -20,6 +20,9 @@ std::wstring DialogRecord::value(std::wstring_view key) const {
 
 const std::vector<DialogRecord>& dialogHistory() { return Runtime::instance().history(); }
 void clearDialogHistory() { Runtime::instance().history().clear(); }
+void onDialogClosed(std::function<void(const DialogRecord&)> listener) {
+    Runtime::instance().closedListener = std::move(listener);
+}
 
 const DialogRecord* lastDialog(std::wstring_view name) {
     const auto& h = Runtime::instance().history();

@@ -107,6 +107,7 @@ int Runtime::run(Dialog& d) {
         if (terminating_) d.status = DLGALLDONE;
         status = d.status;
         history_.push_back(d.record());
+        if (closedListener) closedListener(history_.back());
     }
     if (SysVars* vars = documentVariables()) vars->setShort(L"DIASTAT", static_cast<short>(status < 0 ? 0 : status), true);
     return status;

@@ -2,6 +2,7 @@
 // started dialogs, the open list or image, and the record of finished dialogs.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -53,6 +54,7 @@ public:
 
     std::optional<ListSession> list;
     std::optional<ImageSession> image;
+    std::function<void(const DialogRecord&)> closedListener;
 
 private:
     friend class host::PartStore;

@@ -3,6 +3,7 @@
 #include "psychro/airstate/bands.h"
 
 #include "psychro/airstate/airstate.h"
+#include "psychro/airstate/saturation_terms.h"
 
 namespace airstate {
 
@@ -18,6 +19,22 @@ const std::array<BandEdgePressures, kTemperatureBands.size()>& BandEdgeSaturatio
         return edges;
     }();
     return pressures;
+}
+
+const std::array<BandStartSaturation, kTemperatureBands.size()>& BandStartSaturations() {
+    static const auto values = [] {
+        std::array<BandStartSaturation, kTemperatureBands.size()> starts{};
+        for (std::size_t k = 0; k < kTemperatureBands.size(); ++k) {
+            const TemperatureBand& band = kTemperatureBands[k];
+            const double T_K = FirstStart_K(band);
+            const bool ice = band.phase == Phase::Ice;
+            starts[k] = {ice ? LnSaturationPressureIce(T_K) : LnSaturationPressureWater(T_K),
+                         ice ? SaturationPressureIce(T_K) : SaturationPressureWater(T_K),
+                         SaturationPressureWater(T_K)};
+        }
+        return starts;
+    }();
+    return values;
 }
 
 }  // namespace airstate

@@ -71,16 +71,28 @@ struct BandEdgePressures {
 // computed once, with the same functions as any other saturation pressure.
 const std::array<BandEdgePressures, kTemperatureBands.size()>& BandEdgeSaturationPressures();
 
+// Saturation values at each band's first starting temperature, where every secant iteration
+// in the band begins; like the edges, computed once.
+struct BandStartSaturation {
+    double ln_Pa;       // ln of the saturation pressure on the band's curve (dew point)
+    double own_Pa;      // the saturation pressure on the band's curve (wet bulb)
+    double water_Pa;    // on the water curve, whatever the band's (enthalpy)
+};
+const std::array<BandStartSaturation, kTemperatureBands.size()>& BandStartSaturations();
+
+// The first starting temperature of a band in kelvin, as the iteration computes it.
+inline double FirstStart_K(const TemperatureBand& band) { return band.firstStart_C + kCelsiusToKelvin; }
+
 // Secant iteration for f(T) = target from the starting pair, until the last step is at most
-// 1e-5 K. Deliberately without a step limit: every band starts within 20 K of its root on a
-// smooth rising curve. Returns the root in °C.
+// 1e-5 K; f0 is f at the first starting temperature, which callers take from the band's start
+// values (it is not used when no band holds). Deliberately without a step limit: every band
+// starts within 20 K of its root on a smooth rising curve. Returns the root in °C.
 template <class Function>
-double SolveBySecant(Function&& f, double target, const StartingPair& start) {
+double SolveBySecant(Function&& f, double target, const StartingPair& start, double f0) {
     double T0 = start.first_C + kCelsiusToKelvin;
     double T1 = start.second_C + kCelsiusToKelvin;
     double step = T1 - T0;
     if (!(std::fabs(step) > 1e-5)) return T1 - kCelsiusToKelvin;
-    double f0 = f(T0);
     do {
         const double f1 = f(T1);
         const double T2 = T1 - (f1 - target) * (T1 - T0) / (f1 - f0);

@@ -1,6 +1,7 @@
 // The three inverse functions: each finds the temperature at which a rising function of
 // temperature reaches a target, by a band search and the secant iteration of bands.h. The
-// band edges are evaluated from saturation pressures computed once (BandEdgeSaturationPressures).
+// band edges and the iterations' first starting values are evaluated from saturation values
+// computed once (BandEdgeSaturationPressures, BandStartSaturations).
 
 #include <cmath>
 
@@ -10,6 +11,7 @@
 #include "psychro/airstate/saturation_terms.h"
 
 using airstate::BandEdgeSaturationPressures;
+using airstate::BandStartSaturations;
 using airstate::EnthalpyFromSaturation;
 using airstate::kFreezingEdge_K;
 using airstate::kTemperatureBands;
@@ -19,9 +21,10 @@ using airstate::StartingPair;
 
 namespace {
 
+// The dew-point search works on ln of the pressure, which the correlations give directly.
 double LnSaturationPressure(Phase phase, double T_K) {
-    return std::log(phase == Phase::Ice ? SaturationPressureIce(T_K)
-                                        : SaturationPressureWater(T_K));
+    return phase == Phase::Ice ? airstate::LnSaturationPressureIce(T_K)
+                               : airstate::LnSaturationPressureWater(T_K);
 }
 
 double Psychrometer(Phase phase, double T_K, double P_Pa) {
@@ -62,7 +65,7 @@ double DewPointFromPressure(double p_Pa) {
             const Phase phase = kTemperatureBands[k].phase;
             return airstate::SolveBySecant(
                 [phase](double T_K) { return LnSaturationPressure(phase, T_K); }, target,
-                airstate::StartOf(kTemperatureBands[k]));
+                airstate::StartOf(kTemperatureBands[k]), BandStartSaturations()[k].ln_Pa);
         }
     }
     airstate::Alert(L"求得温度范围不对.");
@@ -73,30 +76,39 @@ double WetBulbTemperature(double t_C, double pq_Pa, double P_Pa) {
     const double target = pq_Pa + 0.000667 * P_Pa * t_C;
     const auto& edges = BandEdgeSaturationPressures();
     StartingPair start;
+    double f0 = 0.0;
     for (std::size_t k = 0; k < kTemperatureBands.size(); ++k) {
         const auto& band = kTemperatureBands[k];
         const double fLower = PsychrometerFromSaturation(edges[k].lower_Pa, band.lowerEdge_K, P_Pa);
         const double fUpper = PsychrometerFromSaturation(edges[k].upper_Pa, band.upperEdge_K, P_Pa);
-        if (airstate::BandHolds(fLower, fUpper, target, k)) start = airstate::StartOf(band);
+        if (airstate::BandHolds(fLower, fUpper, target, k)) {
+            start = airstate::StartOf(band);
+            f0 = PsychrometerFromSaturation(BandStartSaturations()[k].own_Pa, airstate::FirstStart_K(band), P_Pa);
+        }
     }
     const Phase phase = start.phase;
     return airstate::SolveBySecant(
-        [phase, P_Pa](double T_K) { return Psychrometer(phase, T_K, P_Pa); }, target, start);
+        [phase, P_Pa](double T_K) { return Psychrometer(phase, T_K, P_Pa); }, target, start, f0);
 }
 
 double TemperatureFromEnthalpy(double i_kJkg, double P_Pa, double fy_percent) {
     const auto& edges = BandEdgeSaturationPressures();
     StartingPair start;
+    double f0 = 0.0;
     for (std::size_t k = 0; k < kTemperatureBands.size(); ++k) {
         const auto& band = kTemperatureBands[k];
         const double fLower =
             EnthalpyFromSaturation(edges[k].lower_Pa, band.lowerEdge_K, P_Pa, fy_percent);
         const double fUpper =
             EnthalpyFromSaturation(edges[k].upper_Pa, band.upperEdge_K, P_Pa, fy_percent);
-        if (airstate::BandHolds(fLower, fUpper, i_kJkg, k)) start = airstate::StartOf(band);
+        if (airstate::BandHolds(fLower, fUpper, i_kJkg, k)) {
+            start = airstate::StartOf(band);
+            f0 = EnthalpyFromSaturation(BandStartSaturations()[k].water_Pa, airstate::FirstStart_K(band),
+                                        P_Pa, fy_percent);
+        }
     }
     // The water form is iterated even when an ice band was chosen: the program's rule.
     return airstate::SolveBySecant(
         [P_Pa, fy_percent](double T_K) { return EnthalpyAtHumidityWater(T_K, P_Pa, fy_percent); },
-        i_kJkg, start);
+        i_kJkg, start, f0);
 }

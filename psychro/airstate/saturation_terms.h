@@ -6,6 +6,11 @@
 
 namespace airstate {
 
+// ln of the saturation pressure (Pa) at T_K: the correlations' own form. The dew-point search
+// iterates on it directly rather than on the log of the pressure.
+double LnSaturationPressureIce(double T_K);
+double LnSaturationPressureWater(double T_K);
+
 // Psychrometer function, Pa, given the saturation pressure ps_Pa at T_K.
 inline double PsychrometerFromSaturation(double ps_Pa, double T_K, double P_Pa) {
     return ps_Pa + 0.000667 * P_Pa * (T_K - kCelsiusToKelvin);

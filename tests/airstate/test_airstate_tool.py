@@ -97,7 +97,40 @@ class JsonOutput(unittest.TestCase):
     def test_saturation_from_enthalpy_writes_only_the_wet_bulb(self):
         state = solve("--B", "90", "--i", "100")
         self.assertAlmostEqual(state["ts"], 28.235265288441298, delta=1e-8)
-        self.assertEqual([state[k] for k in ("pq", "pb", "t", "tl", "d", "fy", "v")], [0] * 7)
+        self.assertEqual([state[k] for k in ("pq", "pb", "t", "tl", "d", "fy", "v", "db")], [None] * 8)
+        self.assertEqual(state["i"], 100)
+
+    def test_fields_the_solver_does_not_write_are_null(self):
+        self.assertIsNone(solve("--t", "20", "--fy", "50")["db"])
+        self.assertEqual(solve("--db", "10", "--fy", "50")["db"], 10)
+        state = solve("--i", "50", "--fy", "50")
+        self.assertIsNone(state["d"])
+        self.assertEqual(state["i"], 50)
+        self.assertEqual(solve("--i", "50", "--fy", "50", "--d", "8")["d"], 8)  # given: shown
+        table = run("--i", "50").stdout
+        self.assertIn("not computed by this solver", [l for l in table.splitlines() if l.startswith("t ")][0])
+
+    def test_numbers_are_in_their_shortest_exact_form(self):
+        result = run("--t", "20", "--fy", "50", "--json")
+        self.assertIn('"t": 20,', result.stdout)
+        self.assertIn('"B": 101.325,', result.stdout)
+        for token in result.stdout.replace(",", " ").replace("}", " ").split():
+            if token[0].isdigit() or token[0] == "-":
+                # Python's repr is the shortest text that reads back to the same double.
+                self.assertEqual(token, repr(float(token)).removesuffix(".0"))
+
+    def test_an_impossible_state_says_why_in_one_line(self):
+        cases = {("--t", "20", "--fy", "120"): "relative humidity 120 % is above 100 %",
+                 ("--B", "2", "--t", "30", "--d", "0"): "saturation pressure",
+                 ("--t", "20", "--d", "-1"): "moisture content -1 g/kg is below 0"}
+        for args, reason in cases.items():
+            with self.subTest(args):
+                result = run(*args)
+                self.assertEqual(result.returncode, 1)
+                lines = result.stderr.splitlines()
+                self.assertEqual(len(lines), 1, result.stderr)
+                self.assertTrue(lines[0].startswith("airstate: impossible state: " + reason), lines[0])
+                self.assertIn("status  RTERROR", result.stdout)  # the values are still printed
 
 
 class Variants(unittest.TestCase):
@@ -189,6 +222,11 @@ class CommandLineErrors(unittest.TestCase):
     def test_repeated_field_and_bad_pressure(self):
         self.expect_usage_error(["--t", "20", "--t", "21", "--fy", "5"], "--t given twice")
         self.expect_usage_error(["--B", "0", "--t", "20", "--fy", "5"], "--B must be a positive pressure")
+
+    def test_version(self):
+        result = run("--version")
+        self.assertEqual(result.returncode, 0)
+        self.assertRegex(result.stdout, r"^airstate \d+\.\d+\.\d+\n$")
 
     def test_equals_form_is_accepted(self):
         state = solve("--t=20", "--fy=50", "--B=101.325")

@@ -36,6 +36,8 @@ public:
             const std::string arg = argv[a];
             if (arg == "--help" || arg == "-h") {
                 request_->help = true;
+            } else if (arg == "--version") {
+                request_->version = true;
             } else if (arg == "--json") {
                 request_->json = true;
             } else if (arg.rfind("--", 0) != 0) {

@@ -16,6 +16,7 @@ struct Request {
     Variant variant = Variant::Standard;
     bool json = false;
     bool help = false;
+    bool version = false;
 };
 
 // Reads argv[1..argc-1] into *request. Returns false with *problem set on an unknown option, a

@@ -37,7 +37,8 @@ void PrintHelp() {
         "  --variant supply   with i+d: the supply-air solver (latent heat 2501 in t)\n"
         "  --variant cooler   with t+ts: the surface-cooler solver (latent heat 2501 in i)\n"
         "  --json         print one JSON object instead of the table\n"
-        "  --help         print this text\n"
+        "  -h, --help     print this text\n"
+        "  --version      print the version\n"
         "\n"
         "Values may also be written --FIELD=VALUE. The set of fields given picks the solver:\n"
         "  i+d    StateFromEnthalpyMoisture        t+fy   StateFromTempHumidity\n"
@@ -47,18 +48,19 @@ void PrintHelp() {
         "  db+tl  StateFromSaturatedMoistureDewPoint\n"
         "  i+fy   StateFromEnthalpyHumidity; an added --d is the record's moisture content,\n"
         "         which this solver reads (dew point, d < 0 check) and leaves as it is\n"
-        "Fields the solver does not compute keep their start value 0 (db for all solvers but\n"
-        "the db ones; d and i for i+fy).\n"
+        "Fields the solver does not compute are shown as - (JSON null): db for all solvers but\n"
+        "the db ones; d and i for i+fy unless given; all but ts for i alone.\n"
         "\n"
         "JSON output: {\"solver\", \"B\", \"pq\", \"pb\", \"t\", \"ts\", \"tl\", \"d\", \"fy\", "
         "\"i\", \"v\", \"db\",\n"
-        "\"status\", \"alerts\"}. Numbers carry 17 significant digits and read back to the exact\n"
-        "doubles; a NaN or infinite value is written as null. \"status\" is 5100 (RTNORM) or\n"
+        "\"status\", \"alerts\"}. Numbers are in the shortest form that reads back to the exact\n"
+        "double; a NaN or infinite value is written as null. \"status\" is 5100 (RTNORM) or\n"
         "-5001 (RTERROR); \"alerts\" lists the alert texts the solver raised, in order (a\n"
         "temperature outside -60..200 degrees C gives \"求得温度范围不对.\" and -1000).\n"
         "\n"
         "Exit status: 0 valid state; 1 impossible state (fy > 100, pb > P or d < 0: the values\n"
-        "are still printed); 2 bad command line (one line on standard error).\n");
+        "are still printed, and one line on standard error says why); 2 bad command line (one\n"
+        "line on standard error).\n");
 }
 
 int UsageError(const std::string& problem) {
@@ -88,6 +90,10 @@ int main(int argc, char** argv) {
         PrintHelp();
         return 0;
     }
+    if (request.version) {
+        std::printf("airstate %s\n", VRN2_VERSION);
+        return 0;
+    }
     const SolverChoice* solver = FindSolver(request.fields, request.variant, &problem);
     if (!solver) return UsageError(problem);
 
@@ -102,5 +108,7 @@ int main(int argc, char** argv) {
     } else {
         WriteTable(stdout, outcome);
     }
-    return outcome.status == RTNORM ? 0 : kExitImpossibleState;
+    if (outcome.status == RTNORM) return 0;
+    std::fprintf(stderr, "airstate: impossible state: %s\n", ImpossibleReason(outcome.state).c_str());
+    return kExitImpossibleState;
 }

@@ -1,5 +1,6 @@
 #include "psychro/airstate/tool/report.h"
 
+#include <charconv>
 #include <climits>
 #include <cmath>
 #include <cwchar>
@@ -32,20 +33,20 @@ struct FieldRow {
     double AirState::*member;
     const char* unit;
     const char* meaning;
-    unsigned givenBit;  // the Field bit when it can be given, else 0
+    unsigned bit;  // the Field bit; 0 for B, which is always known
 };
 
 constexpr FieldRow kRows[] = {
     {"B", &AirState::B, "kPa", "atmospheric pressure", 0},
-    {"pq", &AirState::pq, "Pa", "water-vapour partial pressure", 0},
-    {"pb", &AirState::pb, "Pa", "saturation pressure at t", 0},
+    {"pq", &AirState::pq, "Pa", "water-vapour partial pressure", kPq},
+    {"pb", &AirState::pb, "Pa", "saturation pressure at t", kPb},
     {"t", &AirState::t, "°C", "dry-bulb temperature", kT},
     {"ts", &AirState::ts, "°C", "wet-bulb temperature", kTs},
     {"tl", &AirState::tl, "°C", "dew-point temperature", kTl},
     {"d", &AirState::d, "g/kg", "moisture content", kD},
     {"fy", &AirState::fy, "%", "relative humidity", kFy},
     {"i", &AirState::i, "kJ/kg", "specific enthalpy", kI},
-    {"v", &AirState::v, "m³/kg", "specific volume", 0},
+    {"v", &AirState::v, "m³/kg", "specific volume", kV},
     {"db", &AirState::db, "g/kg", "saturated moisture content at t", kDb},
 };
 
@@ -59,11 +60,17 @@ std::string PadRight(std::string_view utf8, std::size_t width) {
 
 const char* StatusName(int status) { return status == RTNORM ? "RTNORM" : "RTERROR"; }
 
+// The shortest text that reads back to the same double.
 std::string JsonNumber(double value) {
     if (!std::isfinite(value)) return "null";
     char text[32];
-    std::snprintf(text, sizeof text, "%.17g", value);
-    return text;
+    auto [end, error] = std::to_chars(text, text + sizeof text, value);
+    return error == std::errc() ? std::string(text, end) : "null";
+}
+
+// Given by the user or written by the solver: a field with a value to show.
+bool Known(const FieldRow& row, const Outcome& outcome) {
+    return row.bit == 0 || (row.bit & (outcome.givenFields | outcome.solver->computes));
 }
 
 std::string JsonString(std::string_view utf8) {
@@ -88,7 +95,12 @@ std::string JsonString(std::string_view utf8) {
 void WriteTable(std::FILE* out, const Outcome& outcome) {
     std::fprintf(out, "solver  %s\n", outcome.solver->name);
     for (const FieldRow& row : kRows) {
-        const bool given = row.givenBit & outcome.givenFields;
+        const bool given = row.bit & outcome.givenFields;
+        if (!Known(row, outcome)) {
+            std::fprintf(out, "%-3s %16s  %s %s (not computed by this solver)\n", row.name, "-",
+                         PadRight(row.unit, 6).c_str(), row.meaning);
+            continue;
+        }
         std::fprintf(out, "%-3s %16.6f  %s %s%s\n", row.name, outcome.state.*row.member,
                      PadRight(row.unit, 6).c_str(), row.meaning, given ? " (given)" : "");
     }
@@ -100,12 +112,27 @@ void WriteTable(std::FILE* out, const Outcome& outcome) {
 void WriteJson(std::FILE* out, const Outcome& outcome) {
     std::string json = "{\"solver\": " + JsonString(outcome.solver->name);
     for (const FieldRow& row : kRows)
-        json += ", \"" + std::string(row.name) + "\": " + JsonNumber(outcome.state.*row.member);
+        json += ", \"" + std::string(row.name) + "\": " +
+                (Known(row, outcome) ? JsonNumber(outcome.state.*row.member) : "null");
     json += ", \"status\": " + std::to_string(outcome.status) + ", \"alerts\": [";
     for (std::size_t k = 0; k < outcome.alerts.size(); ++k)
         json += (k ? ", " : "") + JsonString(Utf8(outcome.alerts[k]));
     json += "]}\n";
     std::fputs(json.c_str(), out);
+}
+
+std::string ImpossibleReason(const AirState& s) {
+    char text[160];
+    if (!(s.fy <= 100.0))
+        std::snprintf(text, sizeof text, "relative humidity %g %% is above 100 %%", s.fy);
+    else if (s.pb > 1000.0 * s.B)
+        std::snprintf(text, sizeof text, "saturation pressure %g Pa at %g °C is above the atmospheric %g Pa",
+                      s.pb, s.t, 1000.0 * s.B);
+    else if (s.d < 0.0)
+        std::snprintf(text, sizeof text, "moisture content %g g/kg is below 0", s.d);
+    else
+        std::snprintf(text, sizeof text, "the solver refused the state");
+    return text;
 }
 
 }  // namespace airstate_tool

@@ -22,9 +22,14 @@ struct Outcome {
 // The eleven fields with units, the solver's status and its alerts.
 void WriteTable(std::FILE* out, const Outcome& outcome);
 
-// {"solver":..., "B":..., ..., "db":..., "status":..., "alerts":[...]}: numbers with 17
-// significant digits, so that they read back to the same doubles; NaN and infinities as null.
+// {"solver":..., "B":..., ..., "db":..., "status":..., "alerts":[...]}: numbers in the shortest
+// form that reads back to the same double; fields the solver does not write, NaN and
+// infinities as null.
 void WriteJson(std::FILE* out, const Outcome& outcome);
+
+// Why the solvers refuse the state, in their order of checks: fy above 100 (or NaN), then pb
+// above the atmospheric pressure, then d below 0.
+std::string ImpossibleReason(const AirState& state);
 
 
 }  // namespace airstate_tool

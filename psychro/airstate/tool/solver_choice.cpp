@@ -5,25 +5,29 @@
 namespace airstate_tool {
 namespace {
 
+// Known i and fy: neither d nor i is written.
+constexpr unsigned kEnthalpyHumidityWrites = kT | kTs | kTl | kFy | kPq | kPb | kV;
+
 constexpr std::array<SolverChoice, 13> kSolvers{{
-    {kI | kD, Variant::Standard, "StateFromEnthalpyMoisture", StateFromEnthalpyMoisture},
+    {kI | kD, Variant::Standard, "StateFromEnthalpyMoisture", StateFromEnthalpyMoisture, kAllButDb},
     {kI | kD, Variant::Supply, "StateFromEnthalpyMoistureSupplyAir",
-     StateFromEnthalpyMoistureSupplyAir},
-    {kT | kFy, Variant::Standard, "StateFromTempHumidity", StateFromTempHumidity},
-    {kT | kTs, Variant::Standard, "StateFromTempWetBulb", StateFromTempWetBulb},
+     StateFromEnthalpyMoistureSupplyAir, kAllButDb},
+    {kT | kFy, Variant::Standard, "StateFromTempHumidity", StateFromTempHumidity, kAllButDb},
+    {kT | kTs, Variant::Standard, "StateFromTempWetBulb", StateFromTempWetBulb, kAllButDb},
     {kT | kTs, Variant::Cooler, "StateFromTempWetBulbSurfaceCooler",
-     StateFromTempWetBulbSurfaceCooler},
-    {kT | kD, Variant::Standard, "StateFromTempMoisture", StateFromTempMoisture},
-    {kI, Variant::Standard, "SaturationFromEnthalpy", SaturationFromEnthalpy},
-    {kT | kTl, Variant::Standard, "StateFromTempDewPoint", StateFromTempDewPoint},
-    {kD | kFy, Variant::Standard, "StateFromMoistureHumidity", StateFromMoistureHumidity},
+     StateFromTempWetBulbSurfaceCooler, kAllButDb},
+    {kT | kD, Variant::Standard, "StateFromTempMoisture", StateFromTempMoisture, kAllButDb},
+    {kI, Variant::Standard, "SaturationFromEnthalpy", SaturationFromEnthalpy, kTs},
+    {kT | kTl, Variant::Standard, "StateFromTempDewPoint", StateFromTempDewPoint, kAllButDb},
+    {kD | kFy, Variant::Standard, "StateFromMoistureHumidity", StateFromMoistureHumidity, kAllButDb},
     {kDb | kFy, Variant::Standard, "StateFromSaturatedMoistureHumidity",
-     StateFromSaturatedMoistureHumidity},
+     StateFromSaturatedMoistureHumidity, kAllButDb},
     {kDb | kTl, Variant::Standard, "StateFromSaturatedMoistureDewPoint",
-     StateFromSaturatedMoistureDewPoint},
-    {kI | kFy, Variant::Standard, "StateFromEnthalpyHumidity", StateFromEnthalpyHumidity},
+     StateFromSaturatedMoistureDewPoint, kAllButDb},
+    {kI | kFy, Variant::Standard, "StateFromEnthalpyHumidity", StateFromEnthalpyHumidity, kEnthalpyHumidityWrites},
     // The same solver with the record's moisture content given: it reads d and leaves it.
-    {kI | kFy | kD, Variant::Standard, "StateFromEnthalpyHumidity", StateFromEnthalpyHumidity},
+    {kI | kFy | kD, Variant::Standard, "StateFromEnthalpyHumidity", StateFromEnthalpyHumidity,
+     kEnthalpyHumidityWrites},
 }};
 
 const char* VariantName(Variant variant) {

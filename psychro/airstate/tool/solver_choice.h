@@ -16,7 +16,14 @@ enum Field : unsigned {
     kFy = 1u << 4,
     kI = 1u << 5,
     kDb = 1u << 6,
+    // Written by the solvers, never given.
+    kPq = 1u << 7,
+    kPb = 1u << 8,
+    kV = 1u << 9,
 };
+
+// What most solvers write: every field but db.
+inline constexpr unsigned kAllButDb = kT | kTs | kTl | kD | kFy | kI | kPq | kPb | kV;
 
 enum class Variant { Standard, Supply, Cooler };
 
@@ -25,6 +32,7 @@ struct SolverChoice {
     Variant variant;
     const char* name;
     int (*solve)(AirState&);
+    unsigned computes;  // the fields it writes; the others it leaves as they were
 };
 
 // The solver for exactly these fields and this variant, or null. When it is null, *problem
