@@ -1,0 +1,34 @@
+// Plain points and the plan (x–y) segment intersection shared by the pipe tools.
+#pragma once
+
+#include <optional>
+
+namespace vrn2::drawing {
+
+struct PlanPoint {
+    double x = 0.0;
+    double y = 0.0;
+};
+
+struct SpacePoint {
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
+};
+
+// A straight pipe run from start to end, as its two end points.
+struct PipeSegment {
+    SpacePoint start;
+    SpacePoint end;
+};
+
+inline PlanPoint plan(const SpacePoint& p) { return {p.x, p.y}; }
+
+// The point where segments a–b and c–d meet in plan, end points included. Parallel segments
+// (collinear ones too) have no single meeting point and give none. The parameters along both
+// segments may overshoot [0, 1] by kEndTolerance so that a crossing exactly at an end point,
+// computed with rounding, still counts.
+inline constexpr double kEndTolerance = 1e-10;
+std::optional<PlanPoint> planSegmentIntersection(PlanPoint a, PlanPoint b, PlanPoint c, PlanPoint d);
+
+}  // namespace vrn2::drawing
