@@ -18,6 +18,8 @@ std::string oneDecimal(double value) {
     return buffer;
 }
 
+double lineCount(double start, double end, double spacing) { return std::fabs(end - start) / spacing + 0.5; }
+
 struct Family {
     int count;       // k: lines 0..k
     double extent;   // rounded to whole spacings
@@ -25,12 +27,18 @@ struct Family {
 };
 
 Family family(double start, double end, double spacing, double degrees) {
-    const int count = static_cast<int>(std::fabs(end - start) / spacing + 0.5);
+    const int count = static_cast<int>(lineCount(start, end, spacing));
     const double radians = degrees * kGridPi / 180.0;
     return {count, count * spacing, {std::cos(radians), std::sin(radians)}};
 }
 
 }  // namespace
+
+bool gridIsDrawable(const GridParameters& g) {
+    // Written so that a NaN fails too.
+    return lineCount(g.p1(), g.p2(), g.spacing1()) < kMaxGridLinesPerFamily &&
+           lineCount(g.q1(), g.q2(), g.spacing2()) < kMaxGridLinesPerFamily;
+}
 
 GridDrawing gridDrawing(const GridParameters& g) {
     const Family first = family(g.p1(), g.p2(), g.spacing1(), g.angle1());

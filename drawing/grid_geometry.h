@@ -34,7 +34,14 @@ struct GridDrawing {
     PlanPoint origin, cornerB, cornerC, cornerD;
 };
 
-// The grid for PARAMETERS (limits already applied). Extents are rounded to whole spacings; the
+// More lines than this in one family are refused: such a grid is a typing slip, and drawing it
+// would hang the editor.
+inline constexpr double kMaxGridLinesPerFamily = 10000;
+
+// True when both families of PARAMETERS stay within kMaxGridLinesPerFamily.
+bool gridIsDrawable(const GridParameters& parameters);
+
+// The grid for PARAMETERS (limits already applied, gridIsDrawable true). Extents are rounded to whole spacings; the
 // origin corrections for a falling first family and an obtuse second family each add the other
 // family's start value, which is how existing grids are placed.
 GridDrawing gridDrawing(const GridParameters& parameters);

@@ -131,6 +131,13 @@ TEST(GridDrawing, PiIsTheSevenDecimalValue) {
     EXPECT_LT(d.cornerB.x, -2e-5);
 }
 
+TEST(GridDrawing, HugeOrUnreadableExtentsAreRefused) {
+    EXPECT_TRUE(gridIsDrawable(grid({0, 4999, 0.5, 0, 0, 10, 1, 90})));
+    EXPECT_FALSE(gridIsDrawable(grid({0, 5000, 0.5, 0, 0, 10, 1, 90}))) << "10 001 lines";
+    EXPECT_FALSE(gridIsDrawable(grid({0, 10, 1, 0, 0, 1e300, 1, 90})));
+    EXPECT_FALSE(gridIsDrawable(parseGridFile("nan\n10\n1\n0\n0\n10\n1\n90\n0\n0")));
+}
+
 TEST(GridPreview, TheGridFitsCentredInTheTile) {
     const auto vectors = gridPreview(gridDrawing(grid({0, 10, 2, 0, 0, 6, 2, 90})), 200, 200);
     ASSERT_EQ(vectors.size(), 12u);
