@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "drawing/buffered_lines.h"
+
 namespace vrn2::drawing {
 
 std::string breakLengthKey(const std::string& blockName) {
@@ -14,15 +16,9 @@ std::string breakLengthKey(const std::string& blockName) {
 }
 
 std::optional<float> findBreakLength(const std::string& text, const std::string& key) {
-    const std::size_t room = kBreakLengthLineBuffer - 1;
     std::size_t position = 0;
     while (position < text.size()) {
-        std::size_t end = position;
-        while (end < text.size() && end - position < room) {
-            if (text[end++] == '\n') break;
-        }
-        const std::string line = text.substr(position, end - position);
-        position = end;
+        const std::string line = nextBufferedLine(text, position, kBreakLengthLineBuffer);
         char word[kBreakLengthLineBuffer] = {};
         float number = 0.0f;
         const int fields = std::sscanf(line.c_str(), "%14s%f", word, &number);

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "drawing/buffered_lines.h"
+
 namespace vrn2::drawing {
 namespace {
 
@@ -14,18 +16,6 @@ constexpr double kSmallestSpacing = 0.5;
 constexpr double kLengthSliderFactor = 10.0;
 constexpr int kSliderLow = -32768;
 constexpr int kSliderHigh = 32767;
-
-// The next line as fgets with a buffer of kGridLineBuffer bytes would return it.
-std::string nextLine(const std::string& text, std::size_t& position) {
-    const std::size_t room = kGridLineBuffer - 1;
-    std::size_t end = position;
-    while (end < text.size() && end - position < room) {
-        if (text[end++] == '\n') break;
-    }
-    std::string line = text.substr(position, end - position);
-    position = end;
-    return line;
-}
 
 }  // namespace
 
@@ -43,9 +33,9 @@ GridParameters parseGridFile(const std::string& text) {
     GridParameters parameters;
     std::size_t position = 0;
     for (int field = 0; field < kGridFieldCount; ++field)
-        parameters.values[field] = limitGridValue(field, std::atof(nextLine(text, position).c_str()));
-    parameters.centreLines = static_cast<short>(std::atoi(nextLine(text, position).c_str()));
-    parameters.labels = static_cast<short>(std::atoi(nextLine(text, position).c_str()));
+        parameters.values[field] = limitGridValue(field, std::atof(nextBufferedLine(text, position, kGridLineBuffer).c_str()));
+    parameters.centreLines = static_cast<short>(std::atoi(nextBufferedLine(text, position, kGridLineBuffer).c_str()));
+    parameters.labels = static_cast<short>(std::atoi(nextBufferedLine(text, position, kGridLineBuffer).c_str()));
     return parameters;
 }
 

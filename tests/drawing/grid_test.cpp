@@ -49,6 +49,15 @@ TEST(GridFile, ShortOrWordyFilesReadAsZeros) {
     EXPECT_EQ(g.labels, 0);
 }
 
+TEST(GridFile, ALineLongerThanTheBufferIsReadInPieces) {
+    // 999 characters fit the 1000-byte buffer; the rest of a longer first line becomes line 2.
+    const std::string padded = std::string(995, ' ') + "1.25" + "75\n2\n";
+    const GridParameters g = parseGridFile(padded);
+    EXPECT_EQ(g.p1(), 1.25);
+    EXPECT_EQ(g.p2(), 75.0);
+    EXPECT_EQ(g.spacing1(), 2.0);
+}
+
 TEST(GridFile, WrittenTextEndsWithoutALineBreakAndReadsBack) {
     const std::array<std::string, 8> edits{"0.00", "60.00", "5.00", "30.00", "0.00", "40.00", "5.00", "150.00"};
     const std::string text = gridFileText(edits, 0, 1);
