@@ -24,10 +24,9 @@ struct PipeSegment {
 
 inline PlanPoint plan(const SpacePoint& p) { return {p.x, p.y}; }
 
-// The point where segments a–b and c–d meet in plan, end points included. Parallel segments
-// (collinear ones too) have no single meeting point and give none. The parameters along both
-// segments may overshoot [0, 1] by kEndTolerance so that a crossing exactly at an end point,
-// computed with rounding, still counts.
+// The point where segments a–b and c–d meet in plan, end points included (the toolkit's
+// segment crossing). Parallel segments, collinear ones too, have no single meeting point and
+// give none; a meeting up to kEndTolerance beyond an end still counts.
 inline constexpr double kEndTolerance = 1e-10;
 std::optional<PlanPoint> planSegmentIntersection(PlanPoint a, PlanPoint b, PlanPoint c, PlanPoint d);
 
