@@ -1,5 +1,6 @@
 #include "frame/function_table.h"
 
+#include "drawing/drawing_handlers.h"
 #include "frame/frame_handlers.h"
 #include "frame/not_available.h"
 #include "psychro/psychro_handlers.h"
@@ -46,7 +47,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"_Xgetsyspath", getSysPath},  // 36
     {L"t:draw-hz", drawHanzi},  // 37
     {L"gdsx", notAvailable<38>},  // 38
-    {L"pzjc", notAvailable<39>},  // 39
+    {L"pzjc", collisionsAndBreaks},  // 39
     {L"c:sccal", notAvailable<40>},  // 40
     {L"c:scinfo", notAvailable<41>},  // 41
     {L"c:schlp", notAvailable<42>},  // 42

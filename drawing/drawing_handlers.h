@@ -1,0 +1,10 @@
+// The handlers of the drawing tools' AutoLISP functions, one per function of the table.
+#pragma once
+
+namespace vrn2 {
+
+int collisionsAndBreaks();  // "pzjc"
+int drawGrid();             // "c:fzzbsc"
+int editGrid();             // "c:fzzbdy"
+
+}  // namespace vrn2
