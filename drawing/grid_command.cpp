@@ -10,8 +10,8 @@
 #include "adscodes.h"
 #include "drawing/drawing_handlers.h"
 #include "drawing/grid_geometry.h"
+#include "drawing/grid_file.h"
 #include "drawing/grid_parameters.h"
-#include "frame/data_file.h"
 #include "frame/host_commands.h"
 
 namespace vrn2 {
@@ -21,21 +21,6 @@ constexpr wchar_t kGridLayer[] = L"T-FZZB";
 constexpr wchar_t kMsgGridTooLarge[] = L"\n辅助坐标网格的线太多, 请检查间距和起止坐标.";
 // The grid leaves this share of the view around it.
 constexpr wchar_t kZoomOut[] = L"0.9x";
-
-std::string narrow(const std::wstring& text) {
-    std::string out;
-    for (wchar_t c : text) out += c < 128 ? static_cast<char>(c) : '?';
-    return out;
-}
-
-bool readGrid(drawing::GridParameters& parameters) {
-    std::vector<std::wstring> lines;
-    if (!readDataLines(drawing::kGridFileName, Channel::Print, lines)) return false;
-    std::string text;
-    for (const std::wstring& line : lines) text += narrow(line) + "\n";
-    parameters = drawing::parseGridFile(text);
-    return true;
-}
 
 bool setUp(HostCommands& commands) {
     return commands.run(RTSTR, L"LAYER", RTSTR, L"M", RTSTR, kGridLayer, RTSTR, L"") &&
@@ -89,7 +74,7 @@ bool draw(HostCommands& commands, const drawing::GridDrawing& grid) {
 
 int drawGrid() {
     drawing::GridParameters parameters;
-    if (!readGrid(parameters)) return RTNORM;
+    if (!drawing::readGridFile(parameters)) return RTNORM;
     if (!drawing::gridIsDrawable(parameters)) {
         acutPrintf(kMsgGridTooLarge);
         return RTNORM;

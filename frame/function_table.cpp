@@ -62,7 +62,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:xgfs", notAvailable<51>},  // 51
     {L"c:kvres", notAvailable<52>},  // 52
     {L"work2", xdataByCode},  // 53
-    {L"c:fzzbdy", notAvailable<54>},  // 54
+    {L"c:fzzbdy", editGrid},  // 54
     {L"c:fzzbsc", drawGrid},  // 55
     {L"XGetVrA", getVrnResultA},  // 56
     {L"XGetVrB", getVrnResultB},  // 57

@@ -92,5 +92,47 @@ class GridDrawing(unittest.TestCase):
         self.assertEqual(len(doc.modelspace()), 0)
 
 
+class GridDialog(unittest.TestCase):
+    def edit(self, file_text, actions):
+        with tempfile.TemporaryDirectory() as root:
+            os.makedirs(os.path.join(root, "datlib"))
+            os.makedirs(os.path.join(root, "dwglib"))
+            with open(os.path.join(os.environ["VRN2_ROOT"], "dwglib", "t-fzzb.dcl"), "rb") as src:
+                with open(os.path.join(root, "dwglib", "t-fzzb.dcl"), "wb") as dst:
+                    dst.write(src.read())
+            data = os.path.join(root, "datlib", "t-fzzb.dat")
+            if file_text is not None:
+                with open(data, "w") as f:
+                    f.write(file_text)
+            done = subprocess.run([ADSCON, "--root", root, "-e", f"(host-dialog \"t_fzzb\" '({actions}))",
+                                   "-e", "(c:fzzbdy)"], capture_output=True, text=True, timeout=300)
+            self.assertEqual(done.returncode, 0, done.stdout + done.stderr)
+            written = None
+            if os.path.exists(data):
+                with open(data, "rb") as f:
+                    written = f.read().decode()
+            return done.stdout, written
+
+    SHIPPED = "0.00\n60.00\n5.00\n30.00\n0.00\n40.00\n5.00\n150.00\n 0\n 0"
+
+    def test_ok_writes_the_edit_texts_and_switches_without_a_final_line_break(self):
+        _, written = self.edit(self.SHIPPED, '(set "e3" "0.2") (set "s1" "125") (set "e4" "120") '
+                                             '(set "s8" "95") (set "e6" "-3.456") (set "a" "1") (press "d")')
+        self.assertEqual(written, "12.50\n60.00\n0.50\n90.00\n0.00\n-3.46\n5.00\n95.00\n 1\n 0")
+
+    def test_a_file_that_was_read_with_limits_is_shown_with_them(self):
+        _, written = self.edit("1\n2\n0.2\n-120\n3\n4\n0.3\n200\n0\n1", '(press "d")')
+        self.assertEqual(written, "1.00\n2.00\n0.50\n-90.00\n3.00\n4.00\n0.50\n180.00\n 0\n 1")
+
+    def test_cancel_leaves_the_file_as_it_was(self):
+        _, written = self.edit(self.SHIPPED, '(set "e1" "7") (press "e")')
+        self.assertEqual(written, self.SHIPPED)
+
+    def test_a_missing_file_is_reported_and_no_dialog_is_shown(self):
+        out, written = self.edit(None, '(press "d")')
+        self.assertIn("Failaure in opening file", out)
+        self.assertIsNone(written)
+
+
 if __name__ == "__main__":
     unittest.main()
