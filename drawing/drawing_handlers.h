@@ -4,6 +4,7 @@
 namespace vrn2 {
 
 int collisionsAndBreaks();  // "pzjc"
+int tracePipeRun();         // "gdsx"
 int drawGrid();             // "c:fzzbsc"
 int editGrid();             // "c:fzzbdy"
 

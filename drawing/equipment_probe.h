@@ -20,7 +20,7 @@ inline constexpr double kProbeFiveQuarterTurns = 3.92699075;
 inline constexpr double kProbeHalfTurn = 3.1415926;
 inline constexpr double kPolylineWindowReach = 1.0;
 inline constexpr double kFittingWindowReach = 0.1;
-inline constexpr char kDefaultEquipmentDiameter[] = "20.0";
+inline constexpr wchar_t kDefaultEquipmentDiameter[] = L"20.0";
 
 // The equipment type key of a block: the name less its last two characters, and less a "-"
 // then at its end (both "F1234-A" and "F1234-B2" give "F1234").

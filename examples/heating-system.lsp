@@ -9,7 +9,7 @@
 (setq first-pipe (ssname (ssget "X" '((0 . "POLYLINE") (8 . "$R01-GS"))) 0))
 (setq run (gdsx 0 '(0.0 0.0 0.0) first-pipe candidates reached 1000.0))
 (princ "\nPipes of the supply run (start end length diameter):")
-(foreach entry (caddr run) (print entry))
+(foreach entry (nth 2 run) (print entry))
 (princ "\nRadiators on it (mark block point rotation scales diameter):")
 (foreach entry (nth 3 run) (print entry))
 

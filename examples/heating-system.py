@@ -41,8 +41,10 @@ def fitting(msp, layer, start, end, diameter):
 
 
 def radiator(msp, block, layer, at, mark, rotation=0.0):
+    # Drawn at scale 100: the pipe diameter is probed 200 from the connection, along the
+    # rotation, where the branch pipe comes in.
     insert = msp.add_blockref(block, at, dxfattribs={"layer": layer, "rotation": rotation,
-                                                     "xscale": 1, "yscale": 1, "zscale": 1})
+                                                     "xscale": 100, "yscale": 100, "zscale": 100})
     insert.set_xdata("BMARK", [(1000, mark)])
     insert.set_xdata("INSP", [(1010, at)])
     return insert
@@ -54,7 +56,7 @@ def define_blocks(doc):
     valve.add_line((-1, 1), (1, -1))
     for name in ("F1001-A", "F1002-B1"):
         block = doc.blocks.new(name)
-        block.add_lwpolyline([(0, -300), (1200, -300), (1200, 300), (0, 300)], close=True)
+        block.add_lwpolyline([(-6, 0), (6, 0), (6, 6), (-6, 6)], close=True)
 
 
 def build(path):
@@ -73,8 +75,8 @@ def build(path):
     pipe_polyline(msp, supply, [(5000, 0, 0), (8000, 0, 0)], "DN25")
     pipe_polyline(msp, supply, [(5000, 0, 0), (5000, 2500, 0)], "DN20")
     pipe_polyline(msp, supply, [(8000, 0, 0), (8000, 2500, 0)], "DN20")
-    radiator(msp, "F1001-A", supply, (5000, 2500, 0), "R-1", rotation=0.0)
-    radiator(msp, "F1002-B1", supply, (8000, 2500, 0), "R-2", rotation=0.0)
+    radiator(msp, "F1001-A", supply, (5000, 2500, 0), "R-1", rotation=270.0)
+    radiator(msp, "F1002-B1", supply, (8000, 2500, 0), "R-2", rotation=270.0)
 
     pipe_polyline(msp, ret, [(0, 600, -300), (9000, 600, -300)], "DN32")
     pipe_polyline(msp, "$J01-PS", [(2000, -1500, 200), (2000, 1500, -400)], "DN40")

@@ -46,7 +46,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"_get_ipt_arc_arc", notAvailable<35>},  // 35
     {L"_Xgetsyspath", getSysPath},  // 36
     {L"t:draw-hz", drawHanzi},  // 37
-    {L"gdsx", notAvailable<38>},  // 38
+    {L"gdsx", tracePipeRun},  // 38
     {L"pzjc", collisionsAndBreaks},  // 39
     {L"c:sccal", notAvailable<40>},  // 40
     {L"c:scinfo", notAvailable<41>},  // 41
