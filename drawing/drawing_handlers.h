@@ -5,6 +5,7 @@ namespace vrn2 {
 
 int collisionsAndBreaks();  // "pzjc"
 int tracePipeRun();         // "gdsx"
+int breakAlongSpan();       // "break_p"
 int drawGrid();             // "c:fzzbsc"
 int editGrid();             // "c:fzzbdy"
 

@@ -23,7 +23,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:gscal", supplyAirCalculation},  // 12
     {L"c:gsdelres", deleteSupplyAirResults},  // 13
     {L"c:gsv_res", viewSupplyAirResults},  // 14
-    {L"break_p", notAvailable<15>},  // 15
+    {L"break_p", breakAlongSpan},  // 15
     {L"t:hx_hlgzc", notAvailable<16>},  // 16
     {L"t:hx_vlgzc", notAvailable<17>},  // 17
     {L"c:ci_dt", statePoint},  // 18
