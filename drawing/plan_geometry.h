@@ -3,18 +3,12 @@
 
 #include <optional>
 
+#include "frame/geometry.h"
+
 namespace vrn2::drawing {
 
-struct PlanPoint {
-    double x = 0.0;
-    double y = 0.0;
-};
-
-struct SpacePoint {
-    double x = 0.0;
-    double y = 0.0;
-    double z = 0.0;
-};
+using PlanPoint = Point2;
+using SpacePoint = Point3;
 
 // A straight pipe run from start to end, as its two end points.
 struct PipeSegment {

@@ -48,7 +48,7 @@ bool firstSegment(const ads_name pipe, SpacePoint& c, SpacePoint& d) {
 
 bool selectAlongSpan(SelectionSet& pipes, const SpacePoint& p1, const SpacePoint& p2, const ACHAR* layer) {
     ListBuilder fence, filter;
-    for (const drawing::PlanPoint& corner : drawing::spanFence(plan(p1), plan(p2))) {
+    for (const drawing::PlanPoint& corner : drawing::spanFence(p1.plan(), p2.plan())) {
         ads_point p = {corner.x, corner.y, p1.z};
         if (!fence.addPoint(RT3DPOINT, p)) return false;
     }

@@ -10,10 +10,6 @@ namespace {
 
 constexpr double kTwoPi = 6.283185307179586;
 
-double distance(const SpacePoint& a, const SpacePoint& b) {
-    return std::sqrt((a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y) + (a.z - b.z) * (a.z - b.z));
-}
-
 bool inWindow(double value, double low, double high) { return value >= low && value <= high; }
 
 SpacePoint projected(const SpacePoint& p, const SpacePoint& c, const SpacePoint& d) {

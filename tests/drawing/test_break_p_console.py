@@ -2,14 +2,12 @@
 cut so that only their part inside goes (the pieces keep the pipe's data), a pipe across the
 span left alone, and the three argument alerts."""
 
-import os
-import subprocess
-import tempfile
 import unittest
 
 import ezdxf
 
-ADSCON = os.environ["ADSCON"]
+from drawing_console import run_on
+
 LAYER = "$R01-GS"
 
 
@@ -30,15 +28,7 @@ def runs(doc, layer=LAYER):
 
 class SpanBreak(unittest.TestCase):
     def console(self, doc, *expressions):
-        with tempfile.TemporaryDirectory() as d:
-            source, saved = os.path.join(d, "in.dxf"), os.path.join(d, "out.dxf")
-            doc.saveas(source)
-            args = [ADSCON, "--drawing", source, "--save", saved]
-            for e in expressions:
-                args += ["-e", e]
-            done = subprocess.run(args, capture_output=True, text=True, timeout=300)
-            self.assertEqual(done.returncode, 0, done.stdout + done.stderr)
-            return done.stdout, ezdxf.readfile(saved)
+        return run_on(self, doc, *expressions)
 
     def new(self):
         doc = ezdxf.new("R2000")

@@ -1,15 +1,12 @@
 """pzjc through the console on drawings made here: donuts at collisions of line pipes, gaps cut
 into the lower of two crossing polyline pipes, the limits and the argument messages."""
 
-import math
-import os
-import subprocess
-import tempfile
 import unittest
 
 import ezdxf
 
-ADSCON = os.environ["ADSCON"]
+from drawing_console import run_on
+
 
 
 def polyline_pipe(msp, layer, start, end):
@@ -29,15 +26,7 @@ def new_drawing():
 
 class Console:
     def console(self, doc, *expressions):
-        with tempfile.TemporaryDirectory() as d:
-            source, saved = os.path.join(d, "in.dxf"), os.path.join(d, "out.dxf")
-            doc.saveas(source)
-            args = [ADSCON, "--drawing", source, "--save", saved]
-            for e in expressions:
-                args += ["-e", e]
-            done = subprocess.run(args, capture_output=True, text=True, timeout=300)
-            self.assertEqual(done.returncode, 0, done.stdout + done.stderr)
-            return done.stdout, ezdxf.readfile(saved)
+        return run_on(self, doc, *expressions)
 
 
 def donut_centres(doc):
