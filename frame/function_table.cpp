@@ -1,6 +1,7 @@
 #include "frame/function_table.h"
 
 #include "coil/coil_handlers.h"
+#include "drawing/drawing_handlers.h"
 #include "duct/duct_handlers.h"
 #include "frame/frame_handlers.h"
 #include "frame/not_available.h"
@@ -25,7 +26,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:gscal", supplyAirCalculation},  // 12
     {L"c:gsdelres", deleteSupplyAirResults},  // 13
     {L"c:gsv_res", viewSupplyAirResults},  // 14
-    {L"break_p", notAvailable<15>},  // 15
+    {L"break_p", breakAlongSpan},  // 15
     {L"t:hx_hlgzc", notAvailable<16>},  // 16
     {L"t:hx_vlgzc", notAvailable<17>},  // 17
     {L"c:ci_dt", statePoint},  // 18
@@ -48,8 +49,8 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"_get_ipt_arc_arc", notAvailable<35>},  // 35
     {L"_Xgetsyspath", getSysPath},  // 36
     {L"t:draw-hz", drawHanzi},  // 37
-    {L"gdsx", notAvailable<38>},  // 38
-    {L"pzjc", notAvailable<39>},  // 39
+    {L"gdsx", tracePipeRun},  // 38
+    {L"pzjc", collisionsAndBreaks},  // 39
     {L"c:sccal", coolerCheck},  // 40
     {L"c:scinfo", coolerDatabaseEditor},  // 41
     {L"c:schlp", coolerHelp},  // 42
@@ -64,8 +65,8 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:xgfs", notAvailable<51>},  // 51
     {L"c:kvres", notAvailable<52>},  // 52
     {L"work2", xdataByCode},  // 53
-    {L"c:fzzbdy", notAvailable<54>},  // 54
-    {L"c:fzzbsc", notAvailable<55>},  // 55
+    {L"c:fzzbdy", editGrid},  // 54
+    {L"c:fzzbsc", drawGrid},  // 55
     {L"XGetVrA", getVrnResultA},  // 56
     {L"XGetVrB", getVrnResultB},  // 57
     {L"_JkDlg", notAvailable<58>},  // 58
