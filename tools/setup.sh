@@ -24,19 +24,37 @@ cmake -S "$here" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/nu
 
 case "$what" in
   example)
-    # Just what the example runs: the console and the module.
+    # Just what the examples run: the console and the module.
     cmake --build "$build" -j"$(nproc)" --target adscon Vrn2
     out="$build/example-run"
-    mkdir -p "$out"
-    # Result files are appended to; start from none so the run shows just its own results.
-    rm -f "$out/wair002.txt" "$out/gscal.txt"
-    "$build/adscon" --cwd "$out" --reg 'SysPath=C:\Vornex\' --render "$out/example.png" \
+    rm -rf "$out" && mkdir -p "$out"
+    con=("$build/adscon" --cwd "$out" --reg 'SysPath=C:\Vornex\')
+    show() { printf '\n\n===== %s =====\n' "$1"; cat "$1"; }
+
+    # Air: lettering and a room, supply air, a state point, a mixture; then a coil check.
+    "${con[@]}" --render "$out/example.png" \
       "$here/examples/first-steps.lsp" "$here/examples/air-calculations.lsp"
-    for f in gscal.txt wair002.txt; do
-      printf '\n\n===== %s =====\n' "$out/$f"
-      cat "$out/$f"
-    done
-    printf '\n\n===== picture of the drawing: %s\n' "$out/example.png"
+    "${con[@]}" "$here/examples/coil-check.lsp"
+    show "$out/gscal.txt"; show "$out/wair002.txt"; show "$out/sccal.txt"
+
+    # The i-d chart with state points, a picked point, a mixture and the table of points.
+    "${con[@]}" --save "$out/id-chart.dxf" --render "$out/id-chart.png" "$here/examples/id-chart.lsp"
+
+    # A supply-air duct network of an office floor: traced, calculated, the main path recoloured.
+    "${con[@]}" --drawing "$here/examples/office-supply.dxf" --save "$out/office-supply.dxf" \
+      --render "$out/office-supply.png" "$here/examples/office-supply.lsp"
+    show "$out/office-supply.ksl"
+
+    # Pipes of a heating system: a traced run, collision marks, crossing breaks; and the grid.
+    # The radiators' connection lengths are read from the current folder.
+    /usr/bin/python3 "$here/examples/heating-system.py" "$out/heating-system-in.dxf"
+    cp "$here/examples/_brklen.dat" "$out/"
+    "${con[@]}" --drawing "$out/heating-system-in.dxf" --save "$out/heating-system.dxf" \
+      --render "$out/heating-system.png" "$here/examples/heating-system.lsp"
+    "${con[@]}" --save "$out/grid.dxf" --render "$out/grid.png" -e '(c:fzzbsc)'
+
+    printf '\n\n===== drawings and their pictures in %s\n' "$out"
+    ls "$out"/*.dxf "$out"/*.png
     ;;
   test)
     cmake --build "$build" -j"$(nproc)"
