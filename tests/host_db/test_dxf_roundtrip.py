@@ -84,9 +84,11 @@ def drawing_signature(doc):
         "layers": sorted((l.dxf.name, l.dxf.color) for l in doc.layers),
         "appids": sorted(a.dxf.name for a in doc.appids),
         "styles": sorted(s.dxf.name for s in doc.styles),
-        # ezdxf makes up new GUIDs for an R12 file each time it reads one
+        # ezdxf makes up new GUIDs for an R12 file each time it reads one, and fills in creation
+        # and update times from the clock where a file has none; the bytes are compared too.
         "header": {k: repr(doc.header[k]) for k in doc.header.varnames()
-                   if k not in ("$FINGERPRINTGUID", "$VERSIONGUID")},
+                   if k not in ("$FINGERPRINTGUID", "$VERSIONGUID", "$TDCREATE", "$TDUCREATE",
+                                "$TDUPDATE", "$TDUUPDATE")},
     }
 
 
