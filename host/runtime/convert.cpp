@@ -47,10 +47,12 @@ bool isPointList(const ValuePtr& v) {
     return isNil(p) && (n == 2 || n == 3);
 }
 
-void addValue(ChainBuilder& out, const ValuePtr& v) {
+// Adds v when it is an atom or a point and answers false; for any other list adds its RTLB and
+// answers true, leaving its elements to the caller's walk.
+bool addOpening(ChainBuilder& out, const ValuePtr& v) {
     if (isNil(v)) {
         out.add(newRb(RTNIL));
-        return;
+        return false;
     }
     switch (v->kind) {
     case Kind::Int: {
@@ -63,19 +65,19 @@ void addValue(ChainBuilder& out, const ValuePtr& v) {
             if (rb) rb->resval.rlong = static_cast<long>(v->integer);
             out.add(rb);
         }
-        return;
+        return false;
     }
     case Kind::Real: {
         resbuf* rb = newRb(RTREAL);
         if (rb) rb->resval.rreal = v->real;
         out.add(rb);
-        return;
+        return false;
     }
-    case Kind::Str: out.add(newStringRb(RTSTR, v->text)); return;
+    case Kind::Str: out.add(newStringRb(RTSTR, v->text)); return false;
     case Kind::Sym:
         if (v->text == L"T") out.add(newRb(RTT));
         else out.add(newStringRb(RTSTR, v->text));
-        return;
+        return false;
     case Kind::Ename:
     case Kind::PickSet: {
         resbuf* rb = newRb(v->kind == Kind::Ename ? RTENAME : RTPICKS);
@@ -84,9 +86,9 @@ void addValue(ChainBuilder& out, const ValuePtr& v) {
             rb->resval.rlname[1] = v->name[1];
         }
         out.add(rb);
-        return;
+        return false;
     }
-    case Kind::Void: out.add(newRb(RTVOID)); return;
+    case Kind::Void: out.add(newRb(RTVOID)); return false;
     case Kind::Cons: {
         if (isPointList(v)) {
             auto items = listItems(v);
@@ -94,19 +96,32 @@ void addValue(ChainBuilder& out, const ValuePtr& v) {
             if (rb)
                 for (size_t i = 0; i < items.size(); ++i) rb->resval.rpoint[i] = toDouble(items[i]);
             out.add(rb);
-            return;
+            return false;
         }
         out.add(newRb(RTLB));
-        ValuePtr p = v;
-        for (; p && p->kind == Kind::Cons; p = p->cdr) addValue(out, p->car);
+        return true;
+    }
+    default: out.add(newRb(RTNIL)); return false;
+    }
+}
+
+// A list nested a hundred thousand deep is walked with a stack on the heap, not by recursion.
+void addValue(ChainBuilder& out, const ValuePtr& v) {
+    std::vector<ValuePtr> rests;  // what remains of each open list, innermost last
+    if (addOpening(out, v)) rests.push_back(v);
+    while (!rests.empty()) {
+        ValuePtr p = rests.back();
+        if (p && p->kind == Kind::Cons) {
+            rests.back() = p->cdr;
+            if (addOpening(out, p->car)) rests.push_back(p->car);
+            continue;
+        }
         if (!isNil(p)) {
             out.add(newRb(RTDOTE));
-            addValue(out, p);
+            addOpening(out, p);  // not a cons: an atom closes the dotted list
         }
         out.add(newRb(RTLE));
-        return;
-    }
-    default: out.add(newRb(RTNIL)); return;
+        rests.pop_back();
     }
 }
 
