@@ -1,6 +1,7 @@
 #include "host/runtime/convert.h"
 
 #include <climits>
+#include <cmath>
 
 #include "acutads.h"
 #include "adscodes.h"
@@ -225,6 +226,14 @@ const resbuf* readOne(const resbuf* rb, ValuePtr& out) {
     return rb->rbnext;
 }
 
+// An integer group takes a number that is whole and within the group's range; 1e30 or nan in
+// (62 . 1e30) is refused, not cast.
+bool fitsGroup(const ValuePtr& value, double lowest, double highest) {
+    if (!isNumber(value)) return false;
+    double v = toDouble(value);
+    return v >= lowest && v <= highest && v == std::trunc(v);
+}
+
 bool addEntityItem(ChainBuilder& out, const ValuePtr& item) {
     if (!item || item->kind != Kind::Cons || !item->car || item->car->kind != Kind::Int) return false;
     int code = static_cast<int>(item->car->integer);
@@ -253,12 +262,12 @@ bool addEntityItem(ChainBuilder& out, const ValuePtr& item) {
         rb->resval.rreal = toDouble(value);
         return true;
     case GroupType::Short:
-        if (!isNumber(value)) return false;
-        rb->resval.rint = static_cast<short>(value->kind == Kind::Int ? value->integer : static_cast<long long>(value->real));
+        if (!fitsGroup(value, SHRT_MIN, SHRT_MAX)) return false;
+        rb->resval.rint = static_cast<short>(toDouble(value));
         return true;
     case GroupType::Long:
-        if (!isNumber(value)) return false;
-        rb->resval.rlong = static_cast<long>(value->kind == Kind::Int ? value->integer : static_cast<long long>(value->real));
+        if (!fitsGroup(value, INT_MIN, INT_MAX)) return false;
+        rb->resval.rlong = static_cast<long>(toDouble(value));
         return true;
     case GroupType::Name:
         if (!value || (value->kind != Kind::Ename && value->kind != Kind::PickSet)) return false;
