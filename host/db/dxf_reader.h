@@ -48,8 +48,9 @@ private:
     bool finish();
     std::vector<uint32_t> duplicateHandles();
     bool needsHandle(const Record& r) const;
-    void giveHandle(uint32_t index, bool replace);
+    void giveHandle(uint32_t index);
     void giveHandles();
+    bool hasSection(SectionKind kind) const;
 
     Database& db_;
     std::wstring source_;
