@@ -104,10 +104,11 @@ private:
 
     // "{" { body_item } "}"
     bool body(Body& out) {
+        int opening = peek().line;
         if (!expect(T::LBrace, L"'{'", L"to open the tile body")) return false;
         // Bodies nest by recursion: a limit far above any dialog keeps the stack safe.
         if (nesting_ >= kMaxNesting) {
-            fail(peek().line, L"tiles are nested more than " + std::to_wstring(kMaxNesting) + L" levels deep");
+            fail(opening, L"tiles are nested more than " + std::to_wstring(kMaxNesting) + L" levels deep");
             return false;
         }
         ++nesting_;
