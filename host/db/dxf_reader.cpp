@@ -499,6 +499,7 @@ bool DxfReader::finish() {
     db_.setVersion(acadver, trimBlanks(db_.headerValue("$DWGCODEPAGE", 3)));
     giveHandles();
     db_.indexAll();
+    auditXdata();
     return true;
 }
 

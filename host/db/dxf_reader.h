@@ -51,6 +51,9 @@ private:
     void giveHandle(uint32_t index);
     void giveHandles();
     bool hasSection(SectionKind kind) const;
+    void auditXdata();
+    void registerApplications(const std::vector<uint32_t>& withXdata);
+    bool auditXdataOf(Record& r);
 
     Database& db_;
     std::wstring source_;

@@ -137,4 +137,38 @@ TEST(HostileDxf, BlocksInsertingThemselvesOrEachOtherManyTimesAreMeasured) {
     EXPECT_DOUBLE_EQ(box.maxY, 1.0);
 }
 
+TEST(HostileDxf, ExtendedDataIsAuditedOnReading) {
+    std::string tables = group(0, "SECTION") + group(2, "TABLES") + group(0, "TABLE") + group(2, "APPID") +
+                         group(70, "1") + group(0, "APPID") + group(2, "GOOD") + group(70, "0") + group(0, "ENDTAB") +
+                         group(0, "ENDSEC");
+    std::string unregistered = line() + group(1001, "GOOD") + group(1000, "kept") + group(1001, "UNREG") +
+                               group(1000, "registered now") + group(1001, "A<B") + group(1000, "no name");
+    std::string unbalanced = line() + group(1001, "GOOD") + group(1002, "{") + group(1000, "lost");
+    std::string tooBig = line() + group(1001, "GOOD");
+    for (int i = 0; i < 70; ++i) tooBig += group(1000, std::string(250, 'y'));  // 70 * 253 bytes > 16383
+    std::string header = group(0, "SECTION") + group(2, "HEADER") + group(9, "$ACADVER") + group(1, "AC1009") +
+                         group(0, "ENDSEC");
+    std::string text = header + tables + group(0, "SECTION") + group(2, "ENTITIES") + unregistered + unbalanced +
+                       tooBig + group(0, "ENDSEC") + group(0, "EOF");
+    auto db = parseOk(text);
+    ASSERT_NE(db, nullptr);
+    ASSERT_EQ(db->warnings().size(), 4u);
+    EXPECT_NE(db->warnings()[0].find(L"application UNREG of extended data was not registered; it is now"),
+              std::wstring::npos);
+    EXPECT_NE(db->warnings()[1].find(L"application A<B on the LINE"), std::wstring::npos);
+    EXPECT_NE(db->warnings()[2].find(L"its braces do not balance"), std::wstring::npos);
+    EXPECT_NE(db->warnings()[3].find(L"more than 16383 bytes"), std::wstring::npos);
+    std::string out = db->dxfText();
+    EXPECT_NE(out.find("kept"), std::string::npos);
+    EXPECT_NE(out.find("registered now"), std::string::npos);
+    EXPECT_EQ(out.find("A<B"), std::string::npos);
+    EXPECT_EQ(out.find("lost"), std::string::npos);
+    EXPECT_EQ(out.find(std::string(250, 'y')), std::string::npos);
+    // What was repaired reads back without a warning, and sound data is not touched.
+    auto again = parseOk(out);
+    ASSERT_NE(again, nullptr);
+    EXPECT_TRUE(again->warnings().empty());
+    EXPECT_EQ(again->dxfText(), out);
+}
+
 }  // namespace
