@@ -161,24 +161,6 @@ ValuePtr groupValue(const resbuf* rb) {
 // Reads one element starting at rb; returns the node after it.
 const resbuf* readOne(const resbuf* rb, ValuePtr& out);
 
-const resbuf* readListBody(const resbuf* rb, ValuePtr& out) {
-    std::vector<ValuePtr> items;
-    ValuePtr tail = nil();
-    while (rb && rb->restype != RTLE) {
-        if (rb->restype == RTDOTE) {
-            rb = readOne(rb->rbnext, tail);
-            continue;
-        }
-        ValuePtr item;
-        rb = readOne(rb, item);
-        items.push_back(item);
-    }
-    ValuePtr list = tail;
-    for (auto it = items.rbegin(); it != items.rend(); ++it) list = cons(*it, list);
-    out = list;
-    return rb ? rb->rbnext : nullptr;
-}
-
 // Extended data after a -3 node: one list per application, each headed by its name.
 const resbuf* readXdata(const resbuf* rb, ValuePtr& out) {
     std::vector<ValuePtr> apps;
@@ -203,13 +185,13 @@ const resbuf* readXdata(const resbuf* rb, ValuePtr& out) {
     return rb;
 }
 
-const resbuf* readOne(const resbuf* rb, ValuePtr& out) {
+// An element that opens no list: a value, a group, or extended data.
+const resbuf* readAtom(const resbuf* rb, ValuePtr& out) {
     if (!rb) {
         out = nil();
         return nullptr;
     }
     switch (rb->restype) {
-    case RTLB: return readListBody(rb->rbnext, out);
     case RTNIL: out = nil(); return rb->rbnext;
     case RTT: out = t(); return rb->rbnext;
     case RTVOID: out = voidValue(); return rb->rbnext;
@@ -224,6 +206,48 @@ const resbuf* readOne(const resbuf* rb, ValuePtr& out) {
     // (code . value); a point's value is its coordinate list, giving (code x y z).
     out = cons(makeInt(rb->restype), groupValue(rb));
     return rb->rbnext;
+}
+
+// A list being read: its elements so far, and its tail after a dot.
+struct OpenList {
+    std::vector<ValuePtr> items;
+    ValuePtr tail = nil();
+    bool dotted = false;
+    ValuePtr close() const {
+        ValuePtr list = tail;
+        for (auto it = items.rbegin(); it != items.rend(); ++it) list = cons(*it, list);
+        return list;
+    }
+};
+
+// Lists are read with a stack of open lists on the heap, not by recursion: a module may answer
+// a list nested a hundred thousand deep. A list the chain ends inside is closed there.
+const resbuf* readOne(const resbuf* rb, ValuePtr& out) {
+    std::vector<OpenList> open;  // innermost last
+    for (;;) {
+        ValuePtr value;
+        if (!open.empty() && (!rb || rb->restype == RTLE)) {
+            value = open.back().close();
+            open.pop_back();
+            if (rb) rb = rb->rbnext;
+        } else if (!open.empty() && rb->restype == RTDOTE) {
+            open.back().dotted = true;
+            rb = rb->rbnext;
+            continue;
+        } else if (rb && rb->restype == RTLB) {
+            open.emplace_back();
+            rb = rb->rbnext;
+            continue;
+        } else {
+            rb = readAtom(rb, value);
+        }
+        if (open.empty()) {
+            out = value;
+            return rb;
+        }
+        if (open.back().dotted) open.back().tail = value;
+        else open.back().items.push_back(value);
+    }
 }
 
 // An integer group takes a number that is whole and within the group's range; 1e30 or nan in

@@ -74,12 +74,19 @@ TEST_F(HostileLisp, ADeepListBecomesAResultBufferChainWithoutRecursion) {
     EXPECT_EQ(deepest, depth);
     EXPECT_EQ(level, 0);
 
+    // And back: the chain of a deep list reads as that list.
+    resbuf* again = host::valueToResbuf(deep);
+    lisp::ValuePtr back = host::resbufToValue(again);
+    acutRelRb(again);
+    EXPECT_TRUE(lisp::equalValues(back, deep));
+
     // A dotted pair keeps its dot.
     resbuf* pair = host::valueToResbuf(lisp::cons(lisp::makeInt(1), lisp::makeStr(L"a")));
     ASSERT_NE(pair, nullptr);
     EXPECT_EQ(pair->restype, RTLB);
     EXPECT_EQ(pair->rbnext->rbnext->restype, RTDOTE);
     EXPECT_EQ(pair->rbnext->rbnext->rbnext->rbnext->restype, RTLE);
+    EXPECT_EQ(lisp::printValue(host::resbufToValue(pair)), L"(1 . \"a\")");
     acutRelRb(pair);
 }
 
