@@ -21,6 +21,10 @@ namespace {
 
 constexpr int kLetterGap = 0;
 constexpr wchar_t kMsgBadArguments[] = L"\nt:draw-hz: x, y, scale, colour, a string and the text are expected\n";
+// A glyph is 16 pixels wide on a screen of 16-bit coordinates: a larger scale draws nothing
+// that fits, and 1e308 would overflow the rounding.
+constexpr double kMaxScale = 32767.0 / 16.0;
+constexpr wchar_t kMsgBadScale[] = L"\nt:draw-hz: the scale must be a number from -2047 to 2047\n";
 
 long roundHalfAway(double v) { return std::lround(v); }
 
@@ -80,6 +84,7 @@ int drawHanzi() {
     const ACHAR* skipped = nullptr;
     if (!args.nextShort(x) || !args.nextShort(y) || !args.nextNumber(scale) || !args.nextShort(colour))
         return printFailure(kMsgBadArguments);
+    if (!(std::fabs(scale) <= kMaxScale)) return printFailure(kMsgBadScale);  // nan too
     args.nextString(skipped);
     if (!args.nextString(text)) return printFailure(kMsgBadArguments);
     if (!loadInstallRoot()) return RTERROR;

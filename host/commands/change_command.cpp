@@ -62,7 +62,11 @@ void changeNumber(CommandInput& in, const std::vector<Name>& objects, const wcha
     const CommandToken* t = ask(in, promptText);
     double v;
     if (t && !t->isEnter() && readReal(*t, v)) {
-        if (code == 370) applyToAll(objects, acutBuildList(370, static_cast<int>(v), 0));
+        if (code == 370) {
+            // A lineweight is a small whole number (hundredths of a millimetre, or -1..-3).
+            if (v >= -3 && v <= 211 && v == std::trunc(v)) applyToAll(objects, acutBuildList(370, static_cast<int>(v), 0));
+            else say(L"\nInvalid lineweight.");
+        }
         else applyToAll(objects, acutBuildList(code, v, 0));
     }
 }

@@ -154,6 +154,7 @@ bool readColour(const CommandToken& t, int& colour, bool byAllowed) {
     double v;
     if (t.type == RTSHORT || t.type == RTREAL || (t.type == RTSTR && number(t.text, v))) {
         if (t.type != RTSTR) v = t.real;
+        if (!(v >= 0 && v <= 256)) return false;  // also nan: cast only what an int holds
         colour = static_cast<int>(v);
         if (colour == v && colour >= 1 && colour <= 255) return true;
         return byAllowed && colour == v && (colour == 0 || colour == 256);

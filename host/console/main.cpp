@@ -315,7 +315,7 @@ int main(int argc, char** argv) {
         if (status != kExitOk) {
             std::cerr << "adscon: drawing not saved: the run stopped with an error\n";
         } else if (!h.current().database().save(o.save, error)) {
-            std::cerr << "adscon: cannot save " << o.save << ": " << toUtf8(error) << "\n";
+            std::cerr << "adscon: " << toUtf8(error) << "\n";  // the error names the file
             status = kExitUsage;
         }
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <charconv>
+#include <limits>
 
 #include "host/db/blob.h"
 #include "host/db/dxf_reader.h"
@@ -165,12 +166,28 @@ void Database::indexHandle(uint64_t handle, uint32_t index) {
 }
 
 uint64_t Database::newHandle() {
-    while (findHandle(handseed_) != kNone) ++handseed_;
-    return handseed_++;  // $HANDSEED is written from the seed when the drawing is saved
+    constexpr uint64_t kLast = std::numeric_limits<uint64_t>::max();
+    while (handseed_ != kLast && findHandle(handseed_) != kNone) ++handseed_;
+    // A drawing whose seed reached the last handle (a seed of FFFFFFFFFFFFFFFF in the file)
+    // goes on with the lowest handle not in use: handles never wrap round to 0.
+    if (handseed_ == kLast && findHandle(kLast) != kNone) handseed_ = lowestFreeHandle();
+    uint64_t h = handseed_;
+    if (handseed_ != kLast) ++handseed_;
+    return h;  // $HANDSEED is written from the seed when the drawing is saved
+}
+
+uint64_t Database::lowestFreeHandle() const {
+    uint64_t candidate = 1;
+    for (const auto& [handle, index] : byHandle_) {
+        if (handle > candidate) break;
+        if (handle == candidate) ++candidate;
+    }
+    return candidate;
 }
 
 void Database::noteHandle(uint64_t handle) {
-    if (handle >= handseed_) handseed_ = handle + 1;
+    if (handle >= handseed_ && handle != std::numeric_limits<uint64_t>::max()) handseed_ = handle + 1;
+    else if (handle >= handseed_) handseed_ = handle;
 }
 
 void Database::indexAll() {

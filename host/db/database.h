@@ -205,6 +205,7 @@ private:
     TextCodec codec_;
     Format format_;
     uint64_t handseed_ = 1;
+    uint64_t lowestFreeHandle() const;
     std::unique_ptr<SelectionSets> selectionSets_;
     std::unique_ptr<EntMakeState> entMake_;
     SysVars* sysvars_ = nullptr;

@@ -117,7 +117,11 @@ std::unique_ptr<Database> Database::load(const std::filesystem::path& given, std
 bool Database::save(const std::filesystem::path& given, std::wstring& error) const {
     std::filesystem::path path = platformPath(given);
     std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : ".";
-    std::string pattern = (folder / ("." + path.filename().string() + ".XXXXXX")).string();
+    // The file is written beside its place under a temporary name: "." + name + ".XXXXXX",
+    // the name cut so that the whole stays within the 255 bytes a file name may have.
+    constexpr size_t kNameRoom = 255 - 8;
+    std::string name = path.filename().string().substr(0, kNameRoom);
+    std::string pattern = (folder / ("." + name + ".XXXXXX")).string();
     int fd = mkstemp(pattern.data());
     if (fd < 0) {
         error = L"cannot save " + path.wstring() + L": " + systemError(errno);

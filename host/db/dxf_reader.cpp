@@ -1,6 +1,7 @@
 #include "host/db/dxf_reader.h"
 
 #include <charconv>
+#include <cmath>
 #include <cstring>
 #include <unordered_set>
 
@@ -11,23 +12,45 @@
 namespace host::db {
 namespace {
 
-bool parseReal(std::string_view s) {
+std::string_view numberText(std::string_view s) {
     s = trimBlanks(s);
     if (!s.empty() && s.front() == '+') s.remove_prefix(1);
-    if (s.empty()) return false;
-    double v;
-    auto r = std::from_chars(s.data(), s.data() + s.size(), v);
-    return r.ec == std::errc() && r.ptr == s.data() + s.size();
+    return s;
 }
 
-bool parseInteger(std::string_view s) {
-    s = trimBlanks(s);
-    if (!s.empty() && s.front() == '+') s.remove_prefix(1);
+// A finite number: "nan" and "inf" are not coordinates.
+bool parseReal(std::string_view s, double& v) {
+    s = numberText(s);
+    if (s.empty()) return false;
+    auto r = std::from_chars(s.data(), s.data() + s.size(), v);
+    return r.ec == std::errc() && r.ptr == s.data() + s.size() && std::isfinite(v);
+}
+
+// A whole number within [lowest, highest]; some writers put "1.0" where an integer belongs.
+bool parseInteger(std::string_view s, double lowest, double highest) {
+    s = numberText(s);
     if (s.empty()) return false;
     long long v;
     auto r = std::from_chars(s.data(), s.data() + s.size(), v);
-    if (r.ec == std::errc() && r.ptr == s.data() + s.size()) return true;
-    return parseReal(s);  // some writers put "1.0" where an integer belongs
+    if (r.ec == std::errc() && r.ptr == s.data() + s.size())
+        return static_cast<double>(v) >= lowest && static_cast<double>(v) <= highest;
+    double d;
+    return parseReal(s, d) && d == std::trunc(d) && d >= lowest && d <= highest;
+}
+
+// The values an integer group holds: 16 bits, 64 bits for 160-169, else 32 bits (written
+// unsigned by some programs).
+void integerRange(int code, double& lowest, double& highest) {
+    if (groupType(code) == GroupType::Short) {
+        lowest = -32768.0;
+        highest = 32767.0;
+    } else if (code >= 160 && code <= 169) {
+        lowest = -9223372036854775808.0;
+        highest = 9223372036854774784.0;  // the largest double below 2^63
+    } else {
+        lowest = -2147483648.0;
+        highest = 4294967295.0;
+    }
 }
 
 std::wstring quoted(std::string_view raw) {
@@ -64,13 +87,20 @@ bool DxfReader::fail(size_t line, const std::wstring& what) {
 bool DxfReader::checkValue(const Group& g) {
     switch (groupType(g.code)) {
     case GroupType::Real:
-    case GroupType::Point:
-        if (parseReal(g.value)) return true;
+    case GroupType::Point: {
+        double v;
+        if (parseReal(g.value, v)) return true;
         break;
+    }
     case GroupType::Short:
-    case GroupType::Long:
-        if (parseInteger(g.value)) return true;
-        break;
+    case GroupType::Long: {
+        double lowest, highest;
+        integerRange(g.code, lowest, highest);
+        if (parseInteger(g.value, lowest, highest)) return true;
+        return fail(g.line + 1, L"group code " + std::to_wstring(g.code) + L" needs a whole number from " +
+                                    std::to_wstring(static_cast<long long>(lowest)) + L" to " +
+                                    std::to_wstring(static_cast<long long>(highest)) + L", found " + quoted(g.value));
+    }
     default: return true;
     }
     return fail(g.line + 1, L"group code " + std::to_wstring(g.code) + L" needs a number, found " +
@@ -191,8 +221,18 @@ bool DxfReader::readSection(const Group& start) {
                             L") is not closed by ENDSEC; the file may be truncated");
         return false;
     }
-    db_.sections_.push_back(std::move(section));
+    // A second HEADER, TABLES, BLOCKS or ENTITIES section adds its content to the first: the
+    // drawing is written with one of each, or every save would double that content.
+    if (section.kind == SectionKind::Other || section.kind == SectionKind::Classes ||
+        section.kind == SectionKind::Objects || !hasSection(section.kind))
+        db_.sections_.push_back(std::move(section));
     return true;
+}
+
+bool DxfReader::hasSection(SectionKind kind) const {
+    for (const auto& s : db_.sections_)
+        if (s.kind == kind) return true;
+    return false;
 }
 
 bool DxfReader::readHeader() {
@@ -419,18 +459,20 @@ bool DxfReader::needsHandle(const Record& r) const {
     }
 }
 
-void DxfReader::giveHandle(uint32_t index, bool replace) {
+// The new handle takes the place of the record's handle group: one used twice, or one that
+// does not read as a handle (17 hex digits, "0"), which must not stay beside the new one.
+void DxfReader::giveHandle(uint32_t index) {
     Record& r = db_.records_[index];
     if (!needsHandle(r)) return;
     int code = db_.typeName(r) == "DIMSTYLE" && !db_.isR12() ? 105 : 5;
-    uint64_t h = db_.handseed_++;
+    uint64_t h = db_.newHandle();
     std::string groups;
     appendGroup(groups, code, handleText(h));
     BlobCursor c(r.groups);
     RawGroup g;
     bool replaced = false;
     while (c.next(g)) {
-        if (replace && !replaced && (g.code == 5 || g.code == 105)) {
+        if (!replaced && (g.code == 5 || g.code == 105)) {
             replaced = true;
             continue;
         }
@@ -447,8 +489,8 @@ void DxfReader::giveHandles() {
     std::vector<uint32_t> duplicates = duplicateHandles();
     uint64_t seed = 0;
     if (parseHandle(db_.headerValue("$HANDSEED", 5), seed) && seed) db_.noteHandle(seed - 1);
-    for (auto [index, line] : missingHandles_) giveHandle(index, false);
-    for (uint32_t index : duplicates) giveHandle(index, true);
+    for (auto [index, line] : missingHandles_) giveHandle(index);
+    for (uint32_t index : duplicates) giveHandle(index);
 }
 
 bool DxfReader::finish() {
@@ -457,6 +499,7 @@ bool DxfReader::finish() {
     db_.setVersion(acadver, trimBlanks(db_.headerValue("$DWGCODEPAGE", 3)));
     giveHandles();
     db_.indexAll();
+    auditXdata();
     return true;
 }
 

@@ -48,8 +48,12 @@ private:
     bool finish();
     std::vector<uint32_t> duplicateHandles();
     bool needsHandle(const Record& r) const;
-    void giveHandle(uint32_t index, bool replace);
+    void giveHandle(uint32_t index);
     void giveHandles();
+    bool hasSection(SectionKind kind) const;
+    void auditXdata();
+    void registerApplications(const std::vector<uint32_t>& withXdata);
+    bool auditXdataOf(Record& r);
 
     Database& db_;
     std::wstring source_;

@@ -276,7 +276,9 @@ short complete(Database& db, const EntitySchema& schema, Parsed& p) {
     if (short err = checkRequired(schema, p.data)) return err;
     if (short err = checkProperties(db, p.type, p.data)) return err;
     if (short err = checkXdata(db, p.xdata)) return err;
-    return xdataSize(p.xdata) > kXdataRoom ? kErrXdataTooBig : 0;
+    if (xdataSize(p.xdata) > kXdataRoom) return kErrXdataTooBig;
+    makeNamedLayers(db, p.data);
+    return 0;
 }
 
 // Where the made record goes: into the pending block or complex entity, or into the drawing.

@@ -210,11 +210,13 @@ int modifyEntity(Database& db, const resbuf* list) {
     GroupList data, xdata;
     decodeGroups(db, r.groups, data, &xdata);
     toListForm(type, data);
+    GroupList changed = changedGroups(data, given);
     if (r.kind == RecordKind::Entity || r.kind == RecordKind::SubEntity)
-        if (short err = checkProperties(db, type, changedGroups(data, given))) return fail(err, RTREJ);
+        if (short err = checkProperties(db, type, changed)) return fail(err, RTREJ);
     mergeData(data, given, entitySchema(type), polylineFlagsOf(db, index), type == "LWPOLYLINE");
     toFileForm(type, data);
     if (short err = mergeXdata(db, xdata, givenX)) return fail(err, RTREJ);
+    if (r.kind == RecordKind::Entity || r.kind == RecordKind::SubEntity) makeNamedLayers(db, changed);
     std::string blob;
     encodeGroups(db, data, blob);
     encodeGroups(db, xdata, blob);

@@ -16,8 +16,8 @@ std::wstring currentLayer() {
 short checkProperties(Database& db, std::string_view type, const GroupList& groups) {
     for (const auto& g : groups) {
         switch (g.code) {
-        case 8:
-            if (ensureLayer(db, g.text) == kNone) return kErrBadLayer;
+        case 8:  // made only once the whole change is accepted (makeNamedLayers)
+            if (db.findEntry("LAYER", g.text) == kNone && !validSymbolName(g.text)) return kErrBadLayer;
             break;
         case 6:
             if (!isByName(g.text) && db.findEntry("LTYPE", g.text) == kNone) return kErrBadLinetype;
@@ -38,6 +38,11 @@ short checkProperties(Database& db, std::string_view type, const GroupList& grou
         }
     }
     return 0;
+}
+
+void makeNamedLayers(Database& db, const GroupList& groups) {
+    for (const auto& g : groups)
+        if (g.code == 8) ensureLayer(db, g.text);
 }
 
 }  // namespace host::db

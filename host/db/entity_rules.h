@@ -11,8 +11,10 @@ namespace host::db {
 class Database;
 
 // 0 when the groups are acceptable, else the ERRNO value. A layer that does not exist is
-// made, as the editor makes it.
+// accepted when its name is valid; makeNamedLayers makes it, as the editor does, once the
+// entity is made or changed: a refused change leaves the layer table alone.
 short checkProperties(Database& db, std::string_view type, const GroupList& groups);
+void makeNamedLayers(Database& db, const GroupList& groups);
 
 // The current layer (CLAYER) of the current document; "0" without one.
 std::wstring currentLayer();

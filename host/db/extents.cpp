@@ -1,6 +1,8 @@
 #include "host/db/extents.h"
 
 #include <cmath>
+#include <unordered_map>
+#include <unordered_set>
 
 #include "host/db/database.h"
 #include "host/db/group_values.h"
@@ -9,7 +11,7 @@ namespace host::db {
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
-constexpr int kMaxNesting = 8;  // inserts inside blocks inside blocks ...
+constexpr int kMaxNesting = 64;  // inserts inside blocks inside blocks ...
 
 double real(const GroupList& g, int code, double fallback) {
     const Group* x = findCode(g, code);
@@ -40,18 +42,26 @@ Box textExtents(const GroupList& g) {
     return box;
 }
 
-Box blockExtents(const Database& db, uint32_t block, int depth);
+// One measurement walks each block once: the box of a block is kept for every other insert of
+// it (a block inserting another ten times, ten levels deep, is measured ten times, not ten to
+// the tenth), and a block met again inside itself is a cycle that adds only its insertion point.
+struct BlockWalk {
+    std::unordered_map<uint32_t, Box> measured;
+    std::unordered_set<uint32_t> open;
+};
 
-Box insertExtents(const Database& db, const GroupList& g, int depth) {
+Box blockExtents(const Database& db, uint32_t block, int depth, BlockWalk& walk);
+
+Box insertExtents(const Database& db, const GroupList& g, int depth, BlockWalk& walk) {
     Box box;
     const Group* name = findCode(g, 2);
     uint32_t block = name ? db.findBlock(name->text) : kNone;
     P2 at = point(g, 10);
-    if (block == kNone || depth >= kMaxNesting) {
+    if (block == kNone || depth >= kMaxNesting || walk.open.count(block)) {
         box.add(at);
         return box;
     }
-    Box inner = blockExtents(db, block, depth + 1);
+    Box inner = blockExtents(db, block, depth + 1, walk);
     if (!inner.valid()) {
         box.add(at);
         return box;
@@ -66,13 +76,13 @@ Box insertExtents(const Database& db, const GroupList& g, int depth) {
     return box;
 }
 
-Box extentsAt(const Database& db, uint32_t index, int depth) {
+Box extentsAt(const Database& db, uint32_t index, int depth, BlockWalk& walk) {
     const Record& r = db.record(index);
     const std::string& type = db.typeName(r);
     if (type == "TEXT" || type == "ATTDEF" || type == "INSERT" || type == "MTEXT") {
         GroupList g;
         decodeGroups(db, r.groups, g, nullptr);
-        if (type == "INSERT") return insertExtents(db, g, depth);
+        if (type == "INSERT") return insertExtents(db, g, depth, walk);
         if (type == "MTEXT") {
             Box box;
             P2 at = point(g, 10);
@@ -85,20 +95,31 @@ Box extentsAt(const Database& db, uint32_t index, int depth) {
     return extentsOf(shapeOf(db, index));
 }
 
-Box blockExtents(const Database& db, uint32_t block, int depth) {
+Box blockExtents(const Database& db, uint32_t block, int depth, BlockWalk& walk) {
+    auto known = walk.measured.find(block);
+    if (known != walk.measured.end()) return known->second;
+    walk.open.insert(block);
     Box box;
     for (uint32_t e : db.blocks()[block].entities) {
         const Record& r = db.record(e);
-        if (r.kind == RecordKind::Entity && !r.deleted) box.add(extentsAt(db, e, depth));
+        if (r.kind == RecordKind::Entity && !r.deleted) box.add(extentsAt(db, e, depth, walk));
     }
+    walk.open.erase(block);
+    walk.measured.emplace(block, box);
     return box;
 }
 
+Box entityExtents(const Database& db, uint32_t index, BlockWalk& walk) { return extentsAt(db, index, 0, walk); }
+
 }  // namespace
 
-Box entityExtents(const Database& db, uint32_t index) { return extentsAt(db, index, 0); }
+Box entityExtents(const Database& db, uint32_t index) {
+    BlockWalk walk;
+    return entityExtents(db, index, walk);
+}
 
 Box modelSpaceExtents(const Database& db) {
+    BlockWalk walk;
     Box box;
     for (uint32_t e : db.entities()) {
         const Record& r = db.record(e);
@@ -107,7 +128,7 @@ Box modelSpaceExtents(const Database& db) {
         decodeGroups(db, r.groups, g, nullptr);
         const Group* space = findCode(g, 67);
         if (space && space->integer == 1) continue;
-        box.add(entityExtents(db, e));
+        box.add(entityExtents(db, e, walk));
     }
     return box;
 }

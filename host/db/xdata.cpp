@@ -46,6 +46,11 @@ short checkXdata(const Database& db, std::vector<XdataBlock>& blocks) {
     return 0;
 }
 
+short checkXdataBlock(const Database& db, const XdataBlock& block, bool registered) {
+    if (!registered && db.findEntry("APPID", block.app) == kNone) return kErrBadAppId;
+    return checkGroups(block.groups);
+}
+
 long xdataSize(const std::vector<XdataBlock>& blocks) {
     long size = 0;
     for (const auto& b : blocks) {

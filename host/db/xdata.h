@@ -13,6 +13,9 @@ constexpr size_t kXdataBinaryMax = 127;  // bytes of a 1004 chunk
 // Checks the blocks of an extended-data list and gives each application the spelling it was
 // registered with. 0 when sound, else the ERRNO value.
 short checkXdata(const Database& db, std::vector<XdataBlock>& blocks);
+// The same for one application's block, its name left as given; REGISTERED skips looking the
+// application up.
+short checkXdataBlock(const Database& db, const XdataBlock& block, bool registered = false);
 
 // Bytes the blocks take on an entity: per application 3 (its reference and size); per
 // group 1 for the code and then 2 and one per character for text (1000, 1003), 1 for a

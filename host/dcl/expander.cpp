@@ -11,6 +11,16 @@ void Expander::problem(const std::filesystem::path& file, int line, std::wstring
     problems_.push_back(Problem{file, line, std::move(message)});
 }
 
+bool Expander::spend(size_t tiles, const std::filesystem::path& file, int line) {
+    bool wasWithin = tilesMade_ <= kMaxTiles;
+    tilesMade_ += tiles;
+    if (tilesMade_ <= kMaxTiles) return true;
+    if (wasWithin)
+        problem(file, line, L"the dialog expands to more than " + std::to_wstring(kMaxTiles) +
+                                L" tiles; subassemblies name each other too many times");
+    return false;
+}
+
 std::optional<Tile> Expander::build(const Definition& def) {
     const Resolved* r = resolveDefinition(def, def.file, def.line);
     if (!r) return std::nullopt;
@@ -32,6 +42,14 @@ const Expander::Resolved* Expander::resolveDefinition(const Definition& def, con
     if (auto it = resolved_.find(&def); it != resolved_.end()) return it->second.ok ? &it->second : nullptr;
     if (visiting_.count(&def)) {
         problem(file, line, L"circular definition of tile '" + def.name + L"'");
+        return nullptr;
+    }
+    if (visiting_.size() >= kMaxPrototypeChain) {
+        if (!chainReported_)  // once: every tile further down the chain fails the same way
+            problem(file, line, L"the prototypes of tile '" + def.name + L"' derive from each other more than " +
+                                    std::to_wstring(kMaxPrototypeChain) + L" levels deep");
+        chainReported_ = true;
+        resolved_[&def] = Resolved{};
         return nullptr;
     }
     visiting_.insert(&def);
@@ -64,24 +82,30 @@ bool Expander::combine(const std::vector<std::wstring>& parents, const Body& bod
         if (i == 0) out.kind = parent->kind;
         for (const auto& [name, value] : parent->attributes) out.attributes.emplace(name, value);
         if (!inherited && !parent->children.empty()) {
+            if (!spend(parent->tiles, file, line)) return false;
             out.children = parent->children;
+            out.tiles += parent->tiles;
             inherited = true;
         }
     }
     for (const auto& child : body.children) {
-        auto tile = item(child, file);
-        if (tile)
+        size_t tiles = 0;
+        auto tile = item(child, file, tiles);
+        if (tile) {
             out.children.push_back(std::move(*tile));
-        else
+            out.tiles += tiles;
+        } else {
             ok = false;
+        }
     }
     return ok;
 }
 
-std::optional<Tile> Expander::item(const Item& it, const std::filesystem::path& file) {
+std::optional<Tile> Expander::item(const Item& it, const std::filesystem::path& file, size_t& tiles) {
     if (it.kind == Item::Kind::Reference) {
         const Resolved* r = resolveName(it.prototypes.front(), file, it.line);
-        if (!r) return std::nullopt;
+        if (!r || !spend(r->tiles + 1, file, it.line)) return std::nullopt;
+        tiles = r->tiles + 1;
         return Tile{r->kind, it.prototypes.front(), r->attributes, r->children, file, it.line};
     }
     if (audit_ && it.prototypes.size() == 1 && (!it.body.attributes.empty() || !it.body.children.empty())) {
@@ -95,7 +119,8 @@ std::optional<Tile> Expander::item(const Item& it, const std::filesystem::path& 
         }
     }
     Resolved r;
-    if (!combine(it.prototypes, it.body, file, it.line, r)) return std::nullopt;
+    if (!combine(it.prototypes, it.body, file, it.line, r) || !spend(1, file, it.line)) return std::nullopt;
+    tiles = r.tiles + 1;
     return Tile{r.kind, it.prototypes.front(), std::move(r.attributes), std::move(r.children), file, it.line};
 }
 

@@ -88,6 +88,8 @@ private:
             return number(token);
         if (c == L'.' && isDigit(peek(1)))
             return error(line_, L"a real number needs a digit before the decimal point");
+        if (c < L' ' || c == 0x7F)  // a control character (NUL) would cut or garble the message
+            return error(line_, L"unexpected control character (code " + std::to_wstring(static_cast<int>(c)) + L")");
         return error(line_, std::wstring(L"unexpected character '") + c + L"'");
     }
 

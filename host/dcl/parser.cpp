@@ -30,6 +30,8 @@ private:
     size_t pos_ = 0;
     ParseResult result_;
     bool failed_ = false;
+    static constexpr int kMaxNesting = 256;
+    int nesting_ = 0;
 
     const Token& peek(size_t ahead = 0) const {
         size_t i = std::min(pos_ + ahead, tokens_.size() - 1);
@@ -102,7 +104,20 @@ private:
 
     // "{" { body_item } "}"
     bool body(Body& out) {
+        int opening = peek().line;
         if (!expect(T::LBrace, L"'{'", L"to open the tile body")) return false;
+        // Bodies nest by recursion: a limit far above any dialog keeps the stack safe.
+        if (nesting_ >= kMaxNesting) {
+            fail(opening, L"tiles are nested more than " + std::to_wstring(kMaxNesting) + L" levels deep");
+            return false;
+        }
+        ++nesting_;
+        bool closed = bodyItems(out);
+        --nesting_;
+        return closed;
+    }
+
+    bool bodyItems(Body& out) {
         while (!failed_ && peek().type != T::RBrace) {
             if (peek().type == T::End) {
                 fail(peek().line, L"a tile body is not closed: '}' missing");

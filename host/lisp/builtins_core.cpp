@@ -1,4 +1,5 @@
 // Control forms, arithmetic, lists, strings and output.
+#include <climits>
 #include <cmath>
 #include <cstdio>
 #include <cwchar>
@@ -164,6 +165,8 @@ void addControl(Interpreter& in) {
     });
 }
 
+bool fitsInt(double v) { return v >= INT_MIN && v <= INT_MAX; }  // false for nan
+
 ValuePtr number(double v, bool real) { return real ? makeReal(v) : makeInt(static_cast<int>(static_cast<long long>(v))); }
 
 void addArithmetic(Interpreter& in) {
@@ -211,7 +214,12 @@ void addArithmetic(Interpreter& in) {
     in.define(L"1+", [](Interpreter&, const Args& a) { expectCount(a, 1, 1); return number(numberArg(a[0]) + 1, a[0]->kind == Kind::Real); });
     in.define(L"1-", [](Interpreter&, const Args& a) { expectCount(a, 1, 1); return number(numberArg(a[0]) - 1, a[0]->kind == Kind::Real); });
     in.define(L"ABS", [](Interpreter&, const Args& a) { expectCount(a, 1, 1); return number(std::fabs(numberArg(a[0])), a[0]->kind == Kind::Real); });
-    in.define(L"FIX", [](Interpreter&, const Args& a) { expectCount(a, 1, 1); return makeInt(static_cast<int>(std::trunc(numberArg(a[0])))); });
+    in.define(L"FIX", [](Interpreter&, const Args& a) {
+        expectCount(a, 1, 1);
+        // A value beyond the 32-bit integers stays a real, truncated.
+        double whole = std::trunc(numberArg(a[0]));
+        return fitsInt(whole) ? makeInt(static_cast<long long>(whole)) : makeReal(whole);
+    });
     in.define(L"FLOAT", [](Interpreter&, const Args& a) { expectCount(a, 1, 1); return makeReal(numberArg(a[0])); });
     in.define(L"REM", [](Interpreter&, const Args& a) {
         expectCount(a, 2, 2);
@@ -234,8 +242,15 @@ void addArithmetic(Interpreter& in) {
     });
     in.define(L"EXPT", [](Interpreter&, const Args& a) {
         expectCount(a, 2, 2);
-        double r = std::pow(numberArg(a[0]), numberArg(a[1]));
-        return number(r, a[0]->kind == Kind::Real || a[1]->kind == Kind::Real);
+        double base = numberArg(a[0]), exponent = numberArg(a[1]);
+        bool real = a[0]->kind == Kind::Real || a[1]->kind == Kind::Real;
+        if (base == 0 && exponent < 0) fail(L"divide by zero");
+        double r = std::pow(base, exponent);
+        if (real) return makeReal(r);
+        // Integers: a negative power truncates as integer division does; a power past the
+        // 32-bit integers is given as a real rather than wrapped.
+        if (exponent < 0) return makeInt(static_cast<long long>(std::trunc(r)));
+        return fitsInt(r) ? makeInt(static_cast<long long>(r)) : makeReal(r);
     });
     // MIN and MAX give a real when any argument is real, as the editor does.
     auto extremum = [&in](const wchar_t* name, bool wantGreater) {

@@ -37,6 +37,10 @@ std::wstring suppressZeros(std::wstring s, int dimzin) {
 
 }  // namespace
 
+namespace {
+constexpr double kLargestDecimal = 1e15;
+}
+
 extern "C" int acdbRToS(ads_real val, int unit, int prec, ACHAR* str) {
     return host::guarded(__func__, RTERROR, [&]() -> int {
         if (!str) return RTERROR;
@@ -44,6 +48,9 @@ extern "C" int acdbRToS(ads_real val, int unit, int prec, ACHAR* str) {
         if (prec == -1) prec = sysvarShort(L"LUPREC", 4);
         if (prec < 0 || prec > 8 || !std::isfinite(val)) return RTERROR;
         wchar_t buf[128];
+        // Decimal units print a value too large for its digits to mean anything (and too long
+        // for the caller's buffer) in the scientific form.
+        if (unit == 2 && std::fabs(val) >= kLargestDecimal) unit = 1;
         if (unit == 2) {
             // Round half away from zero at the requested decimals.
             double scale = std::pow(10.0, prec);

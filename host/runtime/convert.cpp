@@ -1,6 +1,7 @@
 #include "host/runtime/convert.h"
 
 #include <climits>
+#include <cmath>
 
 #include "acutads.h"
 #include "adscodes.h"
@@ -47,10 +48,12 @@ bool isPointList(const ValuePtr& v) {
     return isNil(p) && (n == 2 || n == 3);
 }
 
-void addValue(ChainBuilder& out, const ValuePtr& v) {
+// Adds v when it is an atom or a point and answers false; for any other list adds its RTLB and
+// answers true, leaving its elements to the caller's walk.
+bool addOpening(ChainBuilder& out, const ValuePtr& v) {
     if (isNil(v)) {
         out.add(newRb(RTNIL));
-        return;
+        return false;
     }
     switch (v->kind) {
     case Kind::Int: {
@@ -63,19 +66,19 @@ void addValue(ChainBuilder& out, const ValuePtr& v) {
             if (rb) rb->resval.rlong = static_cast<long>(v->integer);
             out.add(rb);
         }
-        return;
+        return false;
     }
     case Kind::Real: {
         resbuf* rb = newRb(RTREAL);
         if (rb) rb->resval.rreal = v->real;
         out.add(rb);
-        return;
+        return false;
     }
-    case Kind::Str: out.add(newStringRb(RTSTR, v->text)); return;
+    case Kind::Str: out.add(newStringRb(RTSTR, v->text)); return false;
     case Kind::Sym:
         if (v->text == L"T") out.add(newRb(RTT));
         else out.add(newStringRb(RTSTR, v->text));
-        return;
+        return false;
     case Kind::Ename:
     case Kind::PickSet: {
         resbuf* rb = newRb(v->kind == Kind::Ename ? RTENAME : RTPICKS);
@@ -84,9 +87,9 @@ void addValue(ChainBuilder& out, const ValuePtr& v) {
             rb->resval.rlname[1] = v->name[1];
         }
         out.add(rb);
-        return;
+        return false;
     }
-    case Kind::Void: out.add(newRb(RTVOID)); return;
+    case Kind::Void: out.add(newRb(RTVOID)); return false;
     case Kind::Cons: {
         if (isPointList(v)) {
             auto items = listItems(v);
@@ -94,19 +97,32 @@ void addValue(ChainBuilder& out, const ValuePtr& v) {
             if (rb)
                 for (size_t i = 0; i < items.size(); ++i) rb->resval.rpoint[i] = toDouble(items[i]);
             out.add(rb);
-            return;
+            return false;
         }
         out.add(newRb(RTLB));
-        ValuePtr p = v;
-        for (; p && p->kind == Kind::Cons; p = p->cdr) addValue(out, p->car);
+        return true;
+    }
+    default: out.add(newRb(RTNIL)); return false;
+    }
+}
+
+// A list nested a hundred thousand deep is walked with a stack on the heap, not by recursion.
+void addValue(ChainBuilder& out, const ValuePtr& v) {
+    std::vector<ValuePtr> rests;  // what remains of each open list, innermost last
+    if (addOpening(out, v)) rests.push_back(v);
+    while (!rests.empty()) {
+        ValuePtr p = rests.back();
+        if (p && p->kind == Kind::Cons) {
+            rests.back() = p->cdr;
+            if (addOpening(out, p->car)) rests.push_back(p->car);
+            continue;
+        }
         if (!isNil(p)) {
             out.add(newRb(RTDOTE));
-            addValue(out, p);
+            addOpening(out, p);  // not a cons: an atom closes the dotted list
         }
         out.add(newRb(RTLE));
-        return;
-    }
-    default: out.add(newRb(RTNIL)); return;
+        rests.pop_back();
     }
 }
 
@@ -145,24 +161,6 @@ ValuePtr groupValue(const resbuf* rb) {
 // Reads one element starting at rb; returns the node after it.
 const resbuf* readOne(const resbuf* rb, ValuePtr& out);
 
-const resbuf* readListBody(const resbuf* rb, ValuePtr& out) {
-    std::vector<ValuePtr> items;
-    ValuePtr tail = nil();
-    while (rb && rb->restype != RTLE) {
-        if (rb->restype == RTDOTE) {
-            rb = readOne(rb->rbnext, tail);
-            continue;
-        }
-        ValuePtr item;
-        rb = readOne(rb, item);
-        items.push_back(item);
-    }
-    ValuePtr list = tail;
-    for (auto it = items.rbegin(); it != items.rend(); ++it) list = cons(*it, list);
-    out = list;
-    return rb ? rb->rbnext : nullptr;
-}
-
 // Extended data after a -3 node: one list per application, each headed by its name.
 const resbuf* readXdata(const resbuf* rb, ValuePtr& out) {
     std::vector<ValuePtr> apps;
@@ -187,13 +185,13 @@ const resbuf* readXdata(const resbuf* rb, ValuePtr& out) {
     return rb;
 }
 
-const resbuf* readOne(const resbuf* rb, ValuePtr& out) {
+// An element that opens no list: a value, a group, or extended data.
+const resbuf* readAtom(const resbuf* rb, ValuePtr& out) {
     if (!rb) {
         out = nil();
         return nullptr;
     }
     switch (rb->restype) {
-    case RTLB: return readListBody(rb->rbnext, out);
     case RTNIL: out = nil(); return rb->rbnext;
     case RTT: out = t(); return rb->rbnext;
     case RTVOID: out = voidValue(); return rb->rbnext;
@@ -208,6 +206,56 @@ const resbuf* readOne(const resbuf* rb, ValuePtr& out) {
     // (code . value); a point's value is its coordinate list, giving (code x y z).
     out = cons(makeInt(rb->restype), groupValue(rb));
     return rb->rbnext;
+}
+
+// A list being read: its elements so far, and its tail after a dot.
+struct OpenList {
+    std::vector<ValuePtr> items;
+    ValuePtr tail = nil();
+    bool dotted = false;
+    ValuePtr close() const {
+        ValuePtr list = tail;
+        for (auto it = items.rbegin(); it != items.rend(); ++it) list = cons(*it, list);
+        return list;
+    }
+};
+
+// Lists are read with a stack of open lists on the heap, not by recursion: a module may answer
+// a list nested a hundred thousand deep. A list the chain ends inside is closed there.
+const resbuf* readOne(const resbuf* rb, ValuePtr& out) {
+    std::vector<OpenList> open;  // innermost last
+    for (;;) {
+        ValuePtr value;
+        if (!open.empty() && (!rb || rb->restype == RTLE)) {
+            value = open.back().close();
+            open.pop_back();
+            if (rb) rb = rb->rbnext;
+        } else if (!open.empty() && rb->restype == RTDOTE) {
+            open.back().dotted = true;
+            rb = rb->rbnext;
+            continue;
+        } else if (rb && rb->restype == RTLB) {
+            open.emplace_back();
+            rb = rb->rbnext;
+            continue;
+        } else {
+            rb = readAtom(rb, value);
+        }
+        if (open.empty()) {
+            out = value;
+            return rb;
+        }
+        if (open.back().dotted) open.back().tail = value;
+        else open.back().items.push_back(value);
+    }
+}
+
+// An integer group takes a number that is whole and within the group's range; 1e30 or nan in
+// (62 . 1e30) is refused, not cast.
+bool fitsGroup(const ValuePtr& value, double lowest, double highest) {
+    if (!isNumber(value)) return false;
+    double v = toDouble(value);
+    return v >= lowest && v <= highest && v == std::trunc(v);
 }
 
 bool addEntityItem(ChainBuilder& out, const ValuePtr& item) {
@@ -238,12 +286,12 @@ bool addEntityItem(ChainBuilder& out, const ValuePtr& item) {
         rb->resval.rreal = toDouble(value);
         return true;
     case GroupType::Short:
-        if (!isNumber(value)) return false;
-        rb->resval.rint = static_cast<short>(value->kind == Kind::Int ? value->integer : static_cast<long long>(value->real));
+        if (!fitsGroup(value, SHRT_MIN, SHRT_MAX)) return false;
+        rb->resval.rint = static_cast<short>(toDouble(value));
         return true;
     case GroupType::Long:
-        if (!isNumber(value)) return false;
-        rb->resval.rlong = static_cast<long>(value->kind == Kind::Int ? value->integer : static_cast<long long>(value->real));
+        if (!fitsGroup(value, INT_MIN, INT_MAX)) return false;
+        rb->resval.rlong = static_cast<long>(toDouble(value));
         return true;
     case GroupType::Name:
         if (!value || (value->kind != Kind::Ename && value->kind != Kind::PickSet)) return false;

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cwchar>
+#include <utility>
 
 #include "host/text.h"
 
@@ -42,6 +43,23 @@ std::wstring quoteString(const std::wstring& s) {
 }
 
 }  // namespace
+
+Value::~Value() {
+    std::vector<ValuePtr> unshared;
+    auto take = [&unshared](ValuePtr& p) {
+        if (p && p.use_count() == 1) unshared.push_back(std::move(p));
+    };
+    take(car);
+    take(cdr);
+    while (!unshared.empty()) {
+        ValuePtr cell = std::move(unshared.back());
+        unshared.pop_back();
+        // The cell is ours alone: emptying it before it goes makes its destructor shallow.
+        auto& owned = const_cast<Value&>(*cell);
+        take(owned.car);
+        take(owned.cdr);
+    }
+}
 
 ValuePtr nil() {
     static const ValuePtr v = make(Kind::Nil);
@@ -143,16 +161,29 @@ bool sameValue(const ValuePtr& a, const ValuePtr& b) {
 }
 
 bool equalValues(const ValuePtr& a, const ValuePtr& b) {
-    if (sameValue(a, b)) return true;
-    if (isNumber(a) && isNumber(b)) return toDouble(a) == toDouble(b);
-    if (!a || !b || a->kind != b->kind) return false;
-    if (a->kind == Kind::Str) return a->text == b->text;
-    if (a->kind == Kind::Real) return a->real == b->real;
-    if (a->kind == Kind::Cons) return equalValues(a->car, b->car) && equalValues(a->cdr, b->cdr);
-    return false;
+    // Pairs still to compare: a loop, not recursion, so deep or long lists compare too.
+    std::vector<std::pair<ValuePtr, ValuePtr>> pending{{a, b}};
+    while (!pending.empty()) {
+        auto [x, y] = std::move(pending.back());
+        pending.pop_back();
+        if (sameValue(x, y)) continue;
+        if (isNumber(x) && isNumber(y)) {
+            if (toDouble(x) != toDouble(y)) return false;
+            continue;
+        }
+        if (!x || !y || x->kind != y->kind) return false;
+        if (x->kind == Kind::Str && x->text == y->text) continue;
+        if (x->kind == Kind::Real && x->real == y->real) continue;
+        if (x->kind != Kind::Cons) return false;
+        pending.emplace_back(x->cdr, y->cdr);
+        pending.emplace_back(x->car, y->car);
+    }
+    return true;
 }
 
-std::wstring printValue(const ValuePtr& v, bool readable) {
+namespace {
+
+std::wstring printAtom(const ValuePtr& v, bool readable) {
     if (isNil(v)) return L"nil";
     switch (v->kind) {
     case Kind::Nil: return L"nil";
@@ -173,21 +204,45 @@ std::wstring printValue(const ValuePtr& v, bool readable) {
     }
     case Kind::Subr: return L"<Subr: #" + v->text + L">";
     case Kind::Lambda: return L"<USUBR: " + v->text + L">";
-    case Kind::Cons: {
-        std::wstring out = L"(";
-        ValuePtr p = v;
-        bool first = true;
-        while (p && p->kind == Kind::Cons) {
-            if (!first) out += L' ';
-            out += printValue(p->car, readable);
-            first = false;
-            p = p->cdr;
-        }
-        if (!isNil(p)) out += L" . " + printValue(p, readable);
-        return out + L")";
-    }
+    case Kind::Cons: break;
     }
     return L"";
+}
+
+}  // namespace
+
+std::wstring printValue(const ValuePtr& v, bool readable) {
+    // The rest of each list being printed, innermost last: nesting costs heap, not stack.
+    struct Open {
+        ValuePtr rest;
+        bool first = true;
+    };
+    std::vector<Open> open;
+    std::wstring out;
+    auto start = [&](const ValuePtr& x) {
+        if (isNil(x) || x->kind != Kind::Cons) {
+            out += printAtom(x, readable);
+            return;
+        }
+        out += L'(';
+        open.push_back({x});
+    };
+    start(v);
+    while (!open.empty()) {
+        Open& list = open.back();
+        ValuePtr p = list.rest;
+        if (p && p->kind == Kind::Cons) {
+            if (!list.first) out += L' ';
+            list.first = false;
+            list.rest = p->cdr;
+            start(p->car);  // may grow `open`: `list` is not used after this
+            continue;
+        }
+        if (!isNil(p)) out += L" . " + printAtom(p, readable);
+        out += L')';
+        open.pop_back();
+    }
+    return out;
 }
 
 }  // namespace host::lisp

@@ -33,6 +33,14 @@ struct Value {
     std::shared_ptr<Builtin> builtin;
     std::shared_ptr<UserFunction> lambda;
     bool special = false;         // a builtin that receives its arguments unevaluated
+
+    Value() = default;
+    Value(const Value&) = delete;
+    Value& operator=(const Value&) = delete;
+    // Frees the cells this one alone holds with a loop: a list of a million elements is
+    // ordinary data, and freeing it cell by cell through nested destructors would exhaust
+    // the stack.
+    ~Value();
 };
 
 ValuePtr nil();

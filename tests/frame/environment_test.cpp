@@ -179,6 +179,17 @@ TEST_F(Lettering, BadArgumentsFailWithAMessage) {
     EXPECT_TRUE(r.defined);
 }
 
+TEST_F(Lettering, AScaleBeyondTheScreenIsRefusedAndDrawsNothing) {
+    for (double scale : {1e308, -1e308, 2048.0, std::nan("")}) {
+        clearOutput();
+        EXPECT_TRUE(draw(0, 0, scale, L"中文").empty()) << scale;
+        EXPECT_NE(printed().find(L"t:draw-hz: the scale must be a number from -2047 to 2047"), std::wstring::npos);
+    }
+    clearOutput();
+    draw(0, 0, 2047.0, L"中");
+    EXPECT_EQ(printed().find(L"the scale must be"), std::wstring::npos);
+}
+
 class ViewCorners : public HostSession {};
 
 TEST_F(ViewCorners, CornersOfAKnownView) {
