@@ -25,9 +25,9 @@ bool startsWithNoCase(std::wstring_view text, std::wstring_view prefix) {
 
 }  // namespace
 
-KeywordList::KeywordList(std::wstring_view spec) {
+KeywordList::KeywordList(std::wstring_view list) {
     bool global = false;
-    for (std::wstring_view token : tokens(spec)) {
+    for (std::wstring_view token : tokens(list)) {
         if (token == L"_") {
             global = true;
             continue;

@@ -20,7 +20,7 @@ namespace host {
 class KeywordList {
 public:
     KeywordList() = default;
-    explicit KeywordList(std::wstring_view spec);
+    explicit KeywordList(std::wstring_view list);
 
     bool empty() const { return local_.empty(); }
     // The keyword REPLY selects, as the caller spelt it in the list (the global form when the
