@@ -11,6 +11,13 @@ BUILD = os.environ["VRN2_BUILD"]
 ROOT = os.environ["VRN2_ROOT"]
 
 
+def bare_environment():
+    """Nothing of the build or source folders; a sanitizer build's settings are kept."""
+    env = {"PATH": "/usr/bin:/bin"}
+    env.update({k: v for k, v in os.environ.items() if k in ("ASAN_OPTIONS", "UBSAN_OPTIONS")})
+    return env
+
+
 class InstalledConsole(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -53,7 +60,7 @@ class InstalledConsole(unittest.TestCase):
             p = subprocess.run([self.installed("bin", "adscon"), "--cwd", run_in, "--reg", "SysPath=C:\\Vornex\\",
                                 "--render", picture, "first-steps.lsp", "air-calculations.lsp"],
                                cwd=work, capture_output=True, text=True, timeout=120,
-                               env={"PATH": "/usr/bin:/bin"})
+                               env=bare_environment())
             self.assertEqual(p.returncode, 0, p.stderr + p.stdout)
             self.assertIn("Installation root (_DRV): " + self.installed("share", "vrn2") + "/", p.stdout)
             self.assertIn("Picture: " + picture, p.stdout)
