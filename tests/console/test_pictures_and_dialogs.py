@@ -240,7 +240,7 @@ class DialogsShown(unittest.TestCase):
         with tempfile.TemporaryDirectory() as d:
             code, out, err = run(d, "--show-dialogs", *exprs(
                 '(host-dialog "gs_caldlg" \'((set "tn_value" "24") (set "rhn_value" "55") (press "cal")))',
-                '(host-dialog "gscalres" \'((press "close")))', "(c:gscal)"))
+                '(host-dialog "gscalres" \'((press "accept")))', "(c:gscal)"))
             self.assertEqual(code, 0, err)
             result = out[out.index("+-- 送风量与送风状态计算结果 (gscalres)"):]
             result = result[:result.index("\n+--\n")]
