@@ -5,6 +5,7 @@
 #include <cwctype>
 
 #include "host/lisp/interpreter.h"
+#include "host/lisp/lisp_files.h"
 #include "host/lisp/reader.h"
 #include "host/output.h"
 #include "host/text.h"
@@ -438,7 +439,11 @@ void addOutput(Interpreter& in) {
             expectCount(a, 0, 2);
             if (a.empty()) return voidValue();
             std::wstring text = (newlineBefore ? L"\n" : L"") + printValue(a[0], readable) + (spaceAfter ? L" " : L"");
-            emit(OutputKind::CommandLine, text);
+            if (a.size() == 2 && !isNil(a[1])) {
+                if (!writeToLispFile(a[1], text)) badArgument(L"streamp", a[1]);
+            } else {
+                emit(OutputKind::CommandLine, text);
+            }
             return a[0];
         });
     };

@@ -78,21 +78,6 @@ void addSystemBuiltins(Interpreter& in) {
         if (acedTrans(p, from.get(), to.get(), a.size() == 4 && isTrue(a[3]), out) != RTNORM) return nil();
         return pointValue(out, true);
     });
-    in.define(L"RTOS", [](Interpreter&, const Args& a) {
-        expectCount(a, 1, 3);
-        wchar_t buf[128];
-        int unit = a.size() > 1 ? static_cast<int>(intArg(a[1])) : -1;
-        int prec = a.size() > 2 ? static_cast<int>(intArg(a[2])) : -1;
-        if (acdbRToS(numberArg(a[0]), unit, prec, buf) != RTNORM) return nil();
-        return makeStr(buf);
-    });
-    in.define(L"DISTOF", [](Interpreter&, const Args& a) {
-        expectCount(a, 1, 2);
-        double v;
-        int unit = a.size() > 1 ? static_cast<int>(intArg(a[1])) : -1;
-        if (acdbDisToF(stringArg(a[0]).c_str(), unit, &v) != RTNORM) return nil();
-        return makeReal(v);
-    });
 }
 
 }  // namespace host::lisp
