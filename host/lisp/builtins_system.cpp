@@ -45,7 +45,8 @@ void addSystemBuiltins(Interpreter& in) {
     in.define(L"COMMAND", [](Interpreter&, const Args& a) {
         if (a.empty()) return nil();
         RbPtr chain(argsToResbuf(a));
-        acedCmd(chain.get());
+        // A command that fails (an unknown name, a refused input) cancels the calling program.
+        if (acedCmd(chain.get()) != RTNORM) fail(L"Function cancelled");
         return nil();
     });
     in.define(L"POLAR", [](Interpreter&, const Args& a) {
