@@ -125,8 +125,10 @@ class BadInput(unittest.TestCase):
         code, out, err = run("-e", "(host-dialog \"ci_dt\" '((press result)))")
         self.assertEqual(code, 1)
         self.assertIn("; error: bad argument type: stringp: RESULT", err)
-        code, out, _ = run("-e", "(host-dialog \"ci_dt\" '((set \"temp\" 25) (press \"result\")))")
-        self.assertEqual((code, out), (0, "T\n"))
+        code, out, err = run("-e", "(host-dialog \"ci_dt\" '((set \"temp\" 25) (press \"result\")))")
+        # Queued and never used, since no command starts that dialog: the run did not do all it asked.
+        self.assertEqual((code, out), (1, "T\n"))
+        self.assertIn("actions queued for dialog ci_dt were not used", err)
 
     def test_malformed_input_is_an_autolisp_error(self):
         code, out, err = run("-e", "(+ 1 2")
