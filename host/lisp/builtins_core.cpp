@@ -254,7 +254,6 @@ void addArithmetic(Interpreter& in) {
     };
     extremum(L"MIN", false);
     extremum(L"MAX", true);
-    in.define(L"PI", [](Interpreter&, const Args&) { return makeReal(3.141592653589793); });
     auto compare = [&in](const wchar_t* name, bool (*ok)(int)) {
         in.define(name, [ok](Interpreter&, const Args& a) {
             if (a.empty()) fail(L"too few arguments");

@@ -130,7 +130,9 @@ ValuePtr Interpreter::eval(const ValuePtr& form) {
     case Kind::Sym: {
         if (form->text == L"T") return form;
         ValuePtr v = symbolValue(form->text);
-        return isNil(v) ? builtin(form->text) : v;  // a built-in's name evaluates to it
+        if (!isNil(v)) return v;
+        if (form->text == L"PI") return makeReal(3.141592653589793);  // bound from the start
+        return builtin(form->text);  // a built-in's name evaluates to it
     }
     case Kind::Cons: {
         struct Depth {
