@@ -22,6 +22,7 @@ int acdbHandEnt(const ACHAR* handle, ads_name entres);
 
 int acdbRegApp(const ACHAR* appname);
 struct resbuf* acdbTblSearch(const ACHAR* tblname, const ACHAR* sym, int setnext);
+int acdbTblObjName(const ACHAR* tblname, const ACHAR* sym, ads_name result);
 struct resbuf* acdbTblNext(const ACHAR* tblname, int rewind);
 int acdbXdRoom(const ads_name ent, long* result);
 int acdbXdSize(const struct resbuf* rb, long* result);

@@ -34,10 +34,11 @@ constexpr int kExitOk = 0;
 constexpr int kExitLispError = 1;
 constexpr int kExitUsage = 2;
 
-const char kHelp[] = R"(Usage: adscon [OPTIONS] [SCRIPT.lsp ...]
+const char kHelp[] = R"(Usage: adscon [OPTIONS] [SCRIPT.lsp | - ...]
 
 Loads the Vrn2 module into a headless drawing editor, opens a drawing, evaluates AutoLISP
-expressions and scripts in the order given, and saves the drawing.
+expressions and scripts in the order given ("-" reads a script from standard input), and
+saves the drawing.
 
 Options:
   --root DIR         installation root of the suite; sets the AutoLISP symbol _DRV to DIR
@@ -64,22 +65,51 @@ Options:
   --version          show the version
 Values may also be written --OPTION=VALUE.
 
-Output: what the module prints on the command line goes to standard output as printed;
-every alert is a line "[alert] TEXT"; an application error is a line
-"Application Vrn2 ERROR: TEXT"; an AutoLISP error is the editor's line "; error: MESSAGE"
-(for example "; error: no function definition: NAME") and stops the run.
+Output: what the module and the scripts print on the command line goes to standard output
+as printed; every alert is a line "[alert] TEXT"; an application error is a line
+"Application Vrn2 ERROR: TEXT". An AutoLISP error goes to standard error as
+"FILE:LINE: ; error: MESSAGE", FILE being the script (or the file it loaded, "<stdin>",
+"-e") and LINE where the top-level form that failed starts; it stops the run. A function
+the script bound to *error* is called first with MESSAGE, as in the editor.
 
-AutoLISP subset: numbers, strings with \\ \" \n \r \t \e and octal escapes, symbols, lists,
-quote, dotted pairs, comments (; and ;| |;); setq defun lambda if cond progn while repeat
-foreach and or eval apply mapcar set boundp read; + - * / 1+ 1- abs fix float rem sqrt sin
-cos atan exp log expt min max = /= < > <= >= zerop minusp numberp; car cdr cadr cddr caar
-cdar caddr cadar cdddr cons list append reverse length nth last member assoc subst null not
-atom listp eq equal type; strcat strlen substr strcase itoa atoi atof chr ascii wcmatch;
-princ prin1 print terpri alert; getvar setvar command polar angle distance trans rtos
-distof; initget getreal getint getdist getangle getcorner getkword getstring; entlast entnext entget entmake entmod entdel handent regapp tblsearch xdroom ssget
-sslength ssname ssadd ssdel ssmemb; and every function the module registers, called with its
-arguments converted as the editor converts them (a list of two or three numbers arrives as a
-point, integers as short integers, nil as nil, T as T).
+AutoLISP: numbers, strings with \\ \" \n \r \t \e and octal escapes, symbols, lists, quote,
+dotted pairs, comments (; and ;| |;); a quoted lambda list and a quoted name of a built-in
+are functions.
+  control    setq defun lambda function if cond progn while repeat foreach and or eval
+             apply mapcar set boundp read exit quit *error* vl-catch-all-apply
+             vl-catch-all-error-p vl-catch-all-error-message vl-load-com
+  numbers    + - * / 1+ 1- abs fix float rem sqrt sin cos atan exp log expt min max gcd pi
+             = /= < > <= >= zerop minusp numberp logand logior lsh boole ~
+  lists      car cdr cadr cddr caar cdar caddr cadar cdddr cons list append reverse length
+             nth last member assoc subst null not atom listp eq equal type vl-consp
+             vl-position vl-remove vl-sort vl-every vl-some vl-remove-if vl-remove-if-not
+             vl-member-if vl-member-if-not
+  strings    strcat strlen substr strcase itoa atoi atof chr ascii wcmatch vl-string-search
+             vl-string-position vl-string-subst vl-string-translate vl-string-trim
+             vl-string-left-trim vl-string-right-trim vl-string->list vl-list->string
+             vl-princ-to-string vl-prin1-to-string
+  output     princ prin1 print terpri alert (princ, prin1 and print write to a file too)
+  files      open (modes "r" "w" "a"; encoding "utf8" or "utf16", else the drawing's code
+             page; a byte-order mark decides when reading) close read-line write-line
+             read-char write-char findfile load vl-filename-base vl-filename-directory
+             vl-filename-extension vl-file-directory-p vl-directory-files getenv ver.
+             findfile and load look in the folder of the file being loaded, the current
+             folder, the installation root, then the folders of the environment variable
+             ACAD (separated by ; or :); load adds ".lsp" to a name without extension.
+  units      rtos distof (modes 1 scientific, 2 decimal, 3 engineering, 4 architectural,
+             5 fractional) angtos (0 degrees, 1 d/m/s, 2 grads, 3 radians, 4 surveyor's)
+             cvunit (inch foot yard mile mm cm m km, radian degree grad, kg g lb,
+             second minute hour day)
+  geometry   polar angle distance inters trans textbox (approximate: a character is 0.6 of
+             the height wide)
+  system     getvar setvar command (a command that fails cancels the script)
+  input      initget getreal getint getdist getangle getcorner getkword getstring getpoint
+             entsel nentsel
+  drawing    entlast entnext entget entmake entmod entdel handent regapp tblsearch tblnext
+             tblobjname xdroom ssget sslength ssname ssadd ssdel ssmemb
+and every function the module registers, called with its arguments converted as the editor
+converts them (a list of two or three numbers arrives as a point, integers as short
+integers, nil as nil, T as T).
 
 Headless forms:
   (host-dialog NAME ACTIONS)  queue actions for the next time dialog NAME starts. ACTIONS is
@@ -117,8 +147,11 @@ Headless forms:
   An empty pick or reply queue answers as a cancelled request (RTCAN; in AutoLISP the
   error "Function cancelled").
 
-Exit status: 0 when everything ran, 1 when an AutoLISP error stopped a script,
-2 for bad options or unreadable files (drawing, script, module, save).
+Exit status: 0 only when everything asked happened. 1 when an AutoLISP error stopped a
+script or an -e expression (a failing command included), when queued dialog actions name a
+dialog that never started or a tile it does not have, or when a queued pick or typed reply
+was never used (each is reported on standard error). 2 for bad options or unreadable files
+(drawing, script, module, save).
 )";
 
 struct Step {
@@ -148,6 +181,15 @@ bool readFile(const std::string& path, std::string& out) {
     if (!in) return false;
     std::ostringstream ss;
     ss << in.rdbuf();
+    out = ss.str();
+    return true;
+}
+
+// A script file, or standard input for "-".
+bool readScript(const std::string& path, std::string& out) {
+    if (path != "-") return readFile(path, out);
+    std::ostringstream ss;
+    ss << std::cin.rdbuf();
     out = ss.str();
     return true;
 }
@@ -227,21 +269,65 @@ int parseOptions(int argc, char** argv, Options& o) {
     return -1;
 }
 
+// The name a step's errors are reported under: the script's path, "<stdin>", or "-e".
+std::wstring sourceName(const Step& step) {
+    if (step.isExpression) return L"-e";
+    return step.text == "-" ? L"<stdin>" : fromUtf8(step.text);
+}
+
+// "FILE:LINE: ; error: MESSAGE" on standard error; the user's *error* function, if any, has
+// seen the message first, as in the editor.
+void reportError(lisp::Interpreter& in, lisp::LispError& e, const Step& step) {
+    in.offerToErrorHandler(e);
+    std::wstring where = e.source.empty() ? sourceName(step) : e.source;
+    int line = e.line > 0 ? e.line : 1;
+    std::fflush(stdout);
+    std::cerr << toUtf8(where) << ":" << line << ": ; error: " << toUtf8(e.message) << "\n";
+}
+
 // Evaluates one step; false when an AutoLISP error stopped it.
 bool runStep(lisp::Interpreter& in, const Step& step, const std::string& scriptText) {
     try {
         if (step.isExpression) {
-            lisp::ValuePtr v = in.evalText(fromUtf8(step.text));
+            lisp::ValuePtr v = in.evalText(fromUtf8(step.text), L"-e");
             std::wstring shown = lisp::printValue(v);
             if (!(v && v->kind == lisp::Kind::Void)) emit(OutputKind::CommandLine, shown + L"\n");
         } else {
-            in.evalText(fromUtf8(scriptText));
+            in.evalText(fromUtf8(scriptText), sourceName(step));
         }
         return true;
-    } catch (const lisp::LispError& e) {
-        emit(OutputKind::CommandLine, L"; error: " + e.message + L"\n");
+    } catch (lisp::LispError& e) {
+        reportError(in, e, step);
         return false;
     }
+}
+
+// Whatever was queued for the run and never used: each is a thing asked that did not happen.
+bool everythingQueuedWasUsed() {
+    bool used = true;
+    auto warn = [&](size_t count, const char* what) {
+        if (count == 0) return;
+        used = false;
+        std::cerr << "adscon: " << count << " queued " << what << (count == 1 ? " was" : "s were") << " not used\n";
+    };
+    for (auto& name : pendingDialogNames()) {
+        used = false;
+        std::cerr << "adscon: actions queued for dialog " << toUtf8(name) << " were not used\n";
+    }
+    if (size_t skipped = skippedDialogActions()) {
+        used = false;
+        std::cerr << "adscon: " << skipped << " queued dialog " << (skipped == 1 ? "action" : "actions")
+                  << " could not be applied\n";
+    }
+    size_t unused = pendingTypedReplies();
+    if (unused) {
+        used = false;
+        std::cerr << "adscon: " << unused << " queued typed " << (unused == 1 ? "reply was" : "replies were")
+                  << " not used\n";
+    }
+    warn(pendingPointPicks(), "point pick");
+    warn(pendingEntityPicks(), "entity pick");
+    return used;
 }
 
 }  // namespace
@@ -252,7 +338,7 @@ int main(int argc, char** argv) {
 
     std::vector<std::string> scripts(o.steps.size());
     for (size_t i = 0; i < o.steps.size(); ++i)
-        if (!o.steps[i].isExpression && !readFile(o.steps[i].text, scripts[i]))
+        if (!o.steps[i].isExpression && !readScript(o.steps[i].text, scripts[i]))
             return usageError("cannot read script " + o.steps[i].text);
 
     console::InstallLayout layout =
@@ -305,15 +391,11 @@ int main(int argc, char** argv) {
             break;
         }
     }
-    for (auto& name : pendingDialogNames())
-        std::cerr << "adscon: actions queued for dialog " << toUtf8(name) << " were not used\n";
-    if (size_t unused = pendingTypedReplies())
-        std::cerr << "adscon: " << unused << " queued typed " << (unused == 1 ? "reply was" : "replies were")
-                  << " not used\n";
+    if (!everythingQueuedWasUsed()) status = kExitLispError;
 
     if (!o.save.empty()) {
         if (status != kExitOk) {
-            std::cerr << "adscon: drawing not saved: the run stopped with an error\n";
+            std::cerr << "adscon: drawing not saved: the run failed\n";
         } else if (!h.current().database().save(o.save, error)) {
             std::cerr << "adscon: " << toUtf8(error) << "\n";  // the error names the file
             status = kExitUsage;

@@ -12,6 +12,7 @@
 #include "host/db/entity_schema.h"
 #include "host/db/entmake_state.h"
 #include "host/db/resbuf_groups.h"
+#include "host/db/table_make.h"
 #include "host/db/tables.h"
 #include "host/db/xdata.h"
 #include "host/text.h"
@@ -319,6 +320,10 @@ int place(Database& db, const Parsed& p, DraftRecord draft) {
 int makeEntity(Database& db, const resbuf* list) {
     Parsed p;
     if (short err = parseList(db, list, p)) return reject(err);
+    if (isMadeAsTableRecord(p.type)) {
+        if (short err = makeTableRecord(db, p.type, p.data)) return reject(err);
+        return RTNORM;
+    }
     const EntitySchema* schema = entitySchema(p.type);
     if (!schema || (db.isR12() && !inR12(p.type))) return reject(kErrBadEntityType);
     EntMakeState& state = db.entMakeState();

@@ -131,6 +131,27 @@ extern "C" struct resbuf* acdbTblSearch(const ACHAR* tblname, const ACHAR* sym, 
     });
 }
 
+extern "C" int acdbTblObjName(const ACHAR* tblname, const ACHAR* sym, ads_name result) {
+    return host::guarded(__func__, RTERROR, [&]() -> int {
+        Database* db = currentDb();
+        if (!db || !tblname || !sym || !result) {
+            setErrno(kErrNullPointer);
+            return RTERROR;
+        }
+        std::string table = tableName(tblname);
+        if (table.empty()) {
+            setErrno(kErrBadTableName);
+            return RTERROR;
+        }
+        for (auto [record, block] : entriesOf(*db, table)) {
+            if (!equalsNoCase(db->recordName(record), sym)) continue;
+            db->nameOf(record, result);
+            return RTNORM;
+        }
+        return RTERROR;
+    });
+}
+
 extern "C" struct resbuf* acdbTblNext(const ACHAR* tblname, int rewind) {
     return host::guarded(__func__, nullptr, [&]() -> struct resbuf* {
         Database* db = currentDb();

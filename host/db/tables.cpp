@@ -52,15 +52,14 @@ const char* sectionName(SectionKind kind) {
     }
 }
 
-// Linetype Continuous, which new layers use.
+}  // namespace
+
 void ensureContinuous(Database& db) {
     if (db.findEntry("LTYPE", L"Continuous") != kNone) return;
     addTableEntry(db, "LTYPE",
                   {stringGroup(2, db.isR12() ? L"CONTINUOUS" : L"Continuous"), intGroup(70, 0),
                    stringGroup(3, L"Solid line"), intGroup(72, 65), intGroup(73, 0), realGroup(40, 0.0)});
 }
-
-}  // namespace
 
 void ensureSection(Database& db, SectionKind kind) {
     auto& sections = db.sections();

@@ -22,6 +22,8 @@ Table& ensureTable(Database& db, std::string_view upperName);
 // Adds an entry with its fields (name first); drawings of R13 and later get the handle,
 // the owner and the subclass markers an entry has there.
 uint32_t addTableEntry(Database& db, std::string_view upperName, const GroupList& fields);
+// The linetype Continuous, made when the drawing lacks it.
+void ensureContinuous(Database& db);
 // The layer of that name, made with colour 7 and linetype Continuous when missing; kNone
 // for a name that cannot be a layer's.
 uint32_t ensureLayer(Database& db, std::wstring_view name);

@@ -10,6 +10,7 @@ namespace {
 
 struct DialogScript {
     std::map<std::wstring, std::deque<std::vector<DialogAction>>> queues;
+    size_t skipped = 0;
 };
 
 std::map<std::wstring, std::deque<std::vector<DialogAction>>>& queues() {
@@ -30,6 +31,9 @@ std::optional<std::vector<DialogAction>> takeDialogActions(const std::wstring& d
     if (it->second.empty()) queues().erase(it);
     return batch;
 }
+
+void noteSkippedDialogAction() { ++sessionPart<DialogScript>().skipped; }
+size_t skippedDialogActions() { return sessionPart<DialogScript>().skipped; }
 
 std::vector<std::wstring> pendingDialogNames() {
     std::vector<std::wstring> names;

@@ -21,5 +21,9 @@ void queueDialogActions(const std::wstring& dialogName, std::vector<DialogAction
 std::optional<std::vector<DialogAction>> takeDialogActions(const std::wstring& dialogName);
 // Names with batches not used yet (the console warns about them at the end of a run).
 std::vector<std::wstring> pendingDialogNames();
+// Queued actions a dialog could not apply (no such tile, a disabled tile): a run that asked
+// for them did not do all it asked.
+void noteSkippedDialogAction();
+size_t skippedDialogActions();
 
 }  // namespace host

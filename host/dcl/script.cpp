@@ -37,9 +37,10 @@ void applyScript(Dialog& dialog) {
     for (const auto& action : *batch) {
         if (dialog.done || Runtime::instance().terminating()) break;
         std::wstring problem = apply(dialog, action);
-        if (!problem.empty())
-            acutPrintf(L"Dialog \"%ls\": %ls; %ls skipped\n", dialog.name().c_str(), problem.c_str(),
-                       describe(action).c_str());
+        if (problem.empty()) continue;
+        noteSkippedDialogAction();
+        acutPrintf(L"Dialog \"%ls\": %ls; %ls skipped\n", dialog.name().c_str(), problem.c_str(),
+                   describe(action).c_str());
     }
 }
 

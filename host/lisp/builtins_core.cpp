@@ -6,6 +6,7 @@
 #include <cwctype>
 
 #include "host/lisp/interpreter.h"
+#include "host/lisp/lisp_files.h"
 #include "host/lisp/reader.h"
 #include "host/output.h"
 #include "host/text.h"
@@ -268,7 +269,6 @@ void addArithmetic(Interpreter& in) {
     };
     extremum(L"MIN", false);
     extremum(L"MAX", true);
-    in.define(L"PI", [](Interpreter&, const Args&) { return makeReal(3.141592653589793); });
     auto compare = [&in](const wchar_t* name, bool (*ok)(int)) {
         in.define(name, [ok](Interpreter&, const Args& a) {
             if (a.empty()) fail(L"too few arguments");
@@ -453,7 +453,11 @@ void addOutput(Interpreter& in) {
             expectCount(a, 0, 2);
             if (a.empty()) return voidValue();
             std::wstring text = (newlineBefore ? L"\n" : L"") + printValue(a[0], readable) + (spaceAfter ? L" " : L"");
-            emit(OutputKind::CommandLine, text);
+            if (a.size() == 2 && !isNil(a[1])) {
+                if (!writeToLispFile(a[1], text)) badArgument(L"streamp", a[1]);
+            } else {
+                emit(OutputKind::CommandLine, text);
+            }
             return a[0];
         });
     };

@@ -45,7 +45,8 @@ void addSystemBuiltins(Interpreter& in) {
     in.define(L"COMMAND", [](Interpreter&, const Args& a) {
         if (a.empty()) return nil();
         RbPtr chain(argsToResbuf(a));
-        acedCmd(chain.get());
+        // A command that fails (an unknown name, a refused input) cancels the calling program.
+        if (acedCmd(chain.get()) != RTNORM) fail(L"Function cancelled");
         return nil();
     });
     in.define(L"POLAR", [](Interpreter&, const Args& a) {
@@ -77,21 +78,6 @@ void addSystemBuiltins(Interpreter& in) {
         RbPtr from(valueToResbuf(a[1])), to(valueToResbuf(a[2]));
         if (acedTrans(p, from.get(), to.get(), a.size() == 4 && isTrue(a[3]), out) != RTNORM) return nil();
         return pointValue(out, true);
-    });
-    in.define(L"RTOS", [](Interpreter&, const Args& a) {
-        expectCount(a, 1, 3);
-        wchar_t buf[128];
-        int unit = a.size() > 1 ? static_cast<int>(intArg(a[1])) : -1;
-        int prec = a.size() > 2 ? static_cast<int>(intArg(a[2])) : -1;
-        if (acdbRToS(numberArg(a[0]), unit, prec, buf) != RTNORM) return nil();
-        return makeStr(buf);
-    });
-    in.define(L"DISTOF", [](Interpreter&, const Args& a) {
-        expectCount(a, 1, 2);
-        double v;
-        int unit = a.size() > 1 ? static_cast<int>(intArg(a[1])) : -1;
-        if (acdbDisToF(stringArg(a[0]).c_str(), unit, &v) != RTNORM) return nil();
-        return makeReal(v);
     });
 }
 

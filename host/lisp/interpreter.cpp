@@ -44,6 +44,31 @@ Interpreter::Interpreter() {
     addHeadlessBuiltins(*this);
     addWindowBuiltins(*this);
     addInputBuiltins(*this);
+    addVlStringBuiltins(*this);
+    addVlListBuiltins(*this);
+    addMathBuiltins(*this);
+    addFileBuiltins(*this);
+    addEnvironmentBuiltins(*this);
+    addUnitBuiltins(*this);
+    addGeometryBuiltins(*this);
+    addPickBuiltins(*this);
+}
+
+ValuePtr Interpreter::builtin(const std::wstring& upperName) const {
+    auto b = builtins_.find(upperName);
+    return b == builtins_.end() ? nil() : b->second;
+}
+
+void Interpreter::offerToErrorHandler(LispError& e) {
+    if (e.handled || catching_ > 0) return;
+    e.handled = true;
+    ValuePtr handler = symbolValue(L"*ERROR*");
+    if (!handler || (handler->kind != Kind::Lambda && handler->kind != Kind::Subr)) return;
+    try {
+        apply(handler, {makeStr(e.message)});
+    } catch (const LispError&) {
+        // An error inside the handler ends it; the original error still ends the evaluation.
+    }
 }
 
 void Interpreter::define(const std::wstring& name, Builtin fn, bool special) {
@@ -69,20 +94,47 @@ void Interpreter::setSymbol(const std::wstring& upperName, ValuePtr value) {
     else symbols[upperName] = std::move(value);
 }
 
-ValuePtr Interpreter::evalText(std::wstring_view text) {
+ValuePtr Interpreter::evalText(std::wstring_view text, const std::wstring& source) {
     ReadResult read = readAll(text);
+    struct SourceScope {
+        std::wstring& current;
+        std::wstring saved;
+        ~SourceScope() { current = saved; }
+    } scope{source_, source_};
+    if (!source.empty()) source_ = source;
     ValuePtr last = nil();
-    for (auto& form : read.forms) last = eval(form);
-    if (!read.error.empty()) fail(read.error);
+    for (size_t k = 0; k < read.forms.size(); ++k) {
+        try {
+            last = eval(read.forms[k]);
+        } catch (LispError& e) {
+            if (e.line == 0 && !source.empty()) {
+                e.source = source;
+                e.line = read.lines[k];
+            }
+            throw;
+        }
+    }
+    if (!read.error.empty()) {
+        LispError e{read.error};
+        if (!source.empty()) {
+            e.source = source;
+            e.line = read.errorLine;
+        }
+        throw e;
+    }
     return last;
 }
 
 ValuePtr Interpreter::eval(const ValuePtr& form) {
     if (isNil(form)) return nil();
     switch (form->kind) {
-    case Kind::Sym:
+    case Kind::Sym: {
         if (form->text == L"T") return form;
-        return symbolValue(form->text);
+        ValuePtr v = symbolValue(form->text);
+        if (!isNil(v)) return v;
+        if (form->text == L"PI") return makeReal(3.141592653589793);  // bound from the start
+        return builtin(form->text);  // a built-in's name evaluates to it
+    }
     case Kind::Cons: {
         struct Depth {
             int& d;
@@ -128,11 +180,18 @@ ValuePtr Interpreter::callNamed(const ValuePtr& head, const ValuePtr& argForms) 
 
 ValuePtr Interpreter::apply(const ValuePtr& fn, const std::vector<ValuePtr>& args) {
     if (fn && fn->kind == Kind::Subr) {
-        if (fn->special) fail(L"bad function: " + printValue(fn));
-        return (*fn->builtin)(*this, args);
+        if (!fn->special) return (*fn->builtin)(*this, args);
+        // A special form applied to values ((apply 'and l)) sees each value quoted.
+        std::vector<ValuePtr> quoted;
+        for (auto& a : args) quoted.push_back(makeList({makeSym(L"QUOTE"), a}));
+        return (*fn->builtin)(*this, quoted);
     }
     if (fn && fn->kind == Kind::Lambda) return callLambda(*fn->lambda, args);
+    // A quoted lambda list is a function: (mapcar '(lambda (x) ...) l).
+    if (fn && fn->kind == Kind::Cons && isSym(fn->car, L"LAMBDA")) return apply(eval(fn), args);
     if (fn && fn->kind == Kind::Sym) {
+        ValuePtr bound = symbolValue(fn->text);
+        if (bound && (bound->kind == Kind::Lambda || bound->kind == Kind::Subr)) return apply(bound, args);
         auto b = builtins_.find(fn->text);
         if (b != builtins_.end()) return apply(b->second, args);
         CallResult r = Host::instance().invoke(fn->text, args);
@@ -159,7 +218,12 @@ ValuePtr Interpreter::callLambda(const UserFunction& fn, const std::vector<Value
         }
     } restore{*this, saved};
     ValuePtr result = nil();
-    for (auto& form : listItems(fn.body)) result = eval(form);
+    try {
+        for (auto& form : listItems(fn.body)) result = eval(form);
+    } catch (LispError& e) {
+        offerToErrorHandler(e);  // before the locals above are restored
+        throw;
+    }
     return result;
 }
 

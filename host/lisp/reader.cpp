@@ -176,10 +176,14 @@ ReadResult readAll(std::wstring_view text) {
     ReadResult result;
     Reader reader(text);
     try {
-        while (!reader.atEnd()) result.forms.push_back(reader.read());
+        while (!reader.atEnd()) {
+            result.lines.push_back(reader.line());
+            result.forms.push_back(reader.read());
+        }
     } catch (const std::wstring& message) {
         result.error = message;
-        result.errorLine = reader.line();
+        // An unfinished form is reported where it starts.
+        result.errorLine = result.lines.size() > result.forms.size() ? result.lines.back() : reader.line();
     }
     return result;
 }

@@ -10,6 +10,7 @@ namespace host::lisp {
 
 struct ReadResult {
     std::vector<ValuePtr> forms;
+    std::vector<int> lines;  // the line each form starts on
     std::wstring error;  // the editor's wording, e.g. "malformed list on input"
     int errorLine = 0;
 };

@@ -27,5 +27,8 @@ struct TypedReply {
 void queueTypedReply(TypedReply reply);
 // Replies queued and not taken yet (the console warns about them at the end of a run).
 size_t pendingTypedReplies();
+// Picks queued and not taken yet.
+size_t pendingEntityPicks();
+size_t pendingPointPicks();
 
 }  // namespace host

@@ -204,6 +204,8 @@ std::wstring printAtom(const ValuePtr& v, bool readable) {
     }
     case Kind::Subr: return L"<Subr: #" + v->text + L">";
     case Kind::Lambda: return L"<USUBR: " + v->text + L">";
+    case Kind::File: return L"#<file " + quoteString(v->text) + L">";
+    case Kind::CatchAll: return L"#<%catch-all-apply-error%>";
     case Kind::Cons: break;
     }
     return L"";

@@ -21,7 +21,9 @@ struct UserFunction {
     ValuePtr body;                     // list of forms
 };
 
-enum class Kind { Nil, Int, Real, Str, Sym, Cons, Ename, PickSet, Subr, Lambda, Void };
+// File: an open file (integer is its number in the interpreter's table, text its name).
+// CatchAll: the error an AutoLISP call gave to vl-catch-all-apply (text is the message).
+enum class Kind { Nil, Int, Real, Str, Sym, Cons, Ename, PickSet, Subr, Lambda, Void, File, CatchAll };
 
 struct Value {
     Kind kind = Kind::Nil;

@@ -34,6 +34,9 @@ void queueEntityPick(const ads_name ent, const ads_point pt) {
 
 void queuePointPick(const ads_point pt) { inputState().pointPicks.push_back({pt[0], pt[1], pt[2]}); }
 
+size_t pendingEntityPicks() { return inputState().entityPicks.size(); }
+size_t pendingPointPicks() { return inputState().pointPicks.size(); }
+
 bool takeEntityPick(ads_name ent, ads_point pt) {
     auto& q = inputState().entityPicks;
     if (q.empty()) return false;

@@ -31,9 +31,9 @@ class Evaluation(unittest.TestCase):
         self.assertEqual(out, '3\n2.5\n(1 "a" B (C . 2))\nnil\n')
 
     def test_unknown_function_gives_the_editor_error_and_status_1(self):
-        code, out, _ = run("-e", "(princ \"before\")", "-e", "(zz-unknown 1)", "-e", "(princ \"after\")")
+        code, out, err = run("-e", "(princ \"before\")", "-e", "(zz-unknown 1)", "-e", "(princ \"after\")")
         self.assertEqual(code, 1)
-        self.assertIn("; error: no function definition: ZZ-UNKNOWN", out)
+        self.assertEqual(err, "-e:1: ; error: no function definition: ZZ-UNKNOWN\n")
         self.assertNotIn("after", out)
 
     def test_scripts_run_in_order_with_defun_and_loops(self):
@@ -122,19 +122,21 @@ class BadInput(unittest.TestCase):
             self.assertEqual(out, "", args)
 
     def test_dialog_names_and_keys_must_be_strings_since_they_are_case_sensitive(self):
-        code, out, _ = run("-e", "(host-dialog \"ci_dt\" '((press result)))")
+        code, out, err = run("-e", "(host-dialog \"ci_dt\" '((press result)))")
         self.assertEqual(code, 1)
-        self.assertIn("; error: bad argument type: stringp: RESULT", out)
-        code, out, _ = run("-e", "(host-dialog \"ci_dt\" '((set \"temp\" 25) (press \"result\")))")
-        self.assertEqual((code, out), (0, "T\n"))
+        self.assertIn("; error: bad argument type: stringp: RESULT", err)
+        code, out, err = run("-e", "(host-dialog \"ci_dt\" '((set \"temp\" 25) (press \"result\")))")
+        # Queued and never used, since no command starts that dialog: the run did not do all it asked.
+        self.assertEqual((code, out), (1, "T\n"))
+        self.assertIn("actions queued for dialog ci_dt were not used", err)
 
     def test_malformed_input_is_an_autolisp_error(self):
-        code, out, _ = run("-e", "(+ 1 2")
+        code, out, err = run("-e", "(+ 1 2")
         self.assertEqual(code, 1)
-        self.assertIn("; error: malformed list on input", out)
-        code, out, _ = run("-e", "(+ 1 \"a\")")
+        self.assertIn("; error: malformed list on input", err)
+        code, out, err = run("-e", "(+ 1 \"a\")")
         self.assertEqual(code, 1)
-        self.assertIn('; error: bad argument type: numberp: "a"', out)
+        self.assertIn('; error: bad argument type: numberp: "a"', err)
 
 
 if __name__ == "__main__":

@@ -48,15 +48,15 @@ class TypedReplies(unittest.TestCase):
         self.assertAlmostEqual(float(out.rsplit(" ", 1)[-1]), math.hypot(3, 4))
 
     def test_nothing_queued_cancels_and_stops_the_script(self):
-        code, out, _ = run('(getstring "\\nName: ")', '(princ "after")')
+        code, out, err = run('(getstring "\\nName: ")', '(princ "after")')
         self.assertEqual(code, 1)
         self.assertIn("Name: *Cancel*", out)
-        self.assertIn("; error: Function cancelled", out)
+        self.assertIn("; error: Function cancelled", err)
         self.assertNotIn("after", out)
 
-    def test_replies_left_over_are_reported(self):
+    def test_replies_left_over_are_reported_and_fail_the_run(self):
         code, _, err = run('(host-input 1 2)', '(getint)')
-        self.assertEqual(code, 0)
+        self.assertEqual(code, 1)
         self.assertIn("1 queued typed reply was not used", err)
 
 

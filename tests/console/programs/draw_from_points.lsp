@@ -1,0 +1,22 @@
+;;; Asks for a start point, a side length and a number of sides, and draws the polygon's
+;;; edges as lines with the LINE command, then labels its centre.
+(defun c:ngon (/ start side n k pts p a)
+  (setq start (getpoint "\nStart point: "))
+  (initget 7)
+  (setq side (getdist start "\nSide length: "))
+  (initget 7)
+  (setq n (getint "\nNumber of sides: "))
+  (initget "Yes No")
+  (setq label (getkword "\nLabel it? [Yes/No] <Yes>: "))
+  (setq pts (list start) p start a 0.0 k 0)
+  (repeat (1- n)
+    (setq p (polar p a side) a (+ a (/ (* 2 pi) n)) pts (cons p pts)))
+  (setq pts (reverse pts) k 0)
+  (repeat n
+    (command "_.LINE" (nth k pts) (nth (rem (1+ k) n) pts) "")
+    (setq k (1+ k)))
+  (if (/= label "No")
+    (entmake (list '(0 . "TEXT") (cons 10 (polar start (- (/ pi 2) (/ pi n)) (/ side 2 (sin (/ pi n)))))
+                   (cons 40 2.5) (cons 1 (strcat (itoa n) "-GON")))))
+  (princ))
+(c:ngon)
