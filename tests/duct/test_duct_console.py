@@ -88,6 +88,10 @@ TRACE = """(setq _tzbl 100.0)
 (c:sssj)
 """
 
+# The trace up to the pick alone: for runs that stop before the main-path dialog, which would
+# otherwise leave its queued actions unused and fail the run.
+TRACE_PICK = TRACE.replace("""(host-dialog "mainduct_l" '((press "accept")))\n""", "")
+
 CALC = """(host-dialog "sljs_dlg" '({actions}))
 (host-dialog "k_sljs_res" '((press "cancel")))
 (c:zljs)
@@ -210,25 +214,26 @@ class DuctCommands(unittest.TestCase):
         d = tee()
         for x in (8000, 12000):
             d.duct((10000, 0), (x, -3000), (160,), 9)
-        printed, _ = self.run_script(d, self.trace(d))
+        printed, _ = self.run_script(d, TRACE_PICK.format(handle=d.root.dxf.handle, pick=1000.0))
         self.assertIn("输入管网不能超过三个分支.", printed)
         d = tee()
         other = d.duct((0, 5000), (100, 5000), (200,), 5, layer="0")
-        printed, _ = self.run_script(d, TRACE.format(handle=other.dxf.handle, pick=50.0))
+        printed, _ = self.run_script(d, TRACE_PICK.format(handle=other.dxf.handle, pick=50.0))
         self.assertIn("[alert] 选择风道无效.", printed)
         d = tee()
         circle = d.msp.add_circle((0, 9000), 100, dxfattribs={"layer": LAYER})
-        printed, _ = self.run_script(d, TRACE.format(handle=circle.dxf.handle, pick=0.0))
+        printed, _ = self.run_script(d, TRACE_PICK.format(handle=circle.dxf.handle, pick=0.0))
         self.assertIn("选择起始段不是风道.", printed)
         printed, _ = self.run_script(tee(), '(setq _tzbl 100.0)\n(c:sssj)\n')
         self.assertIn("没选择起始风道.", printed)
         d = tee()
-        printed, doc = self.run_script(d, self.trace(d).replace("(setq _tzbl 100.0)", ""))
+        # Without the scale nothing is asked: a queued pick would be left over.
+        printed, doc = self.run_script(d, "(c:sssj)\n")
         self.assertIn("未设置绘图比例_tzbl.", printed)
         self.assertIsNone(self.xtext(doc, d.root.dxf.handle, "K_DUCT_G"))
 
     def test_calculation_needs_a_traced_network(self):
-        printed, _ = self.run_script(tee(), CALC.format(actions=GOOD))
+        printed, _ = self.run_script(tee(), "(c:zljs)\n")
         self.assertNotIn("最不利管路总阻力", printed)
         self.assertFalse(os.path.exists(os.path.join(self.dir, "k-sljs.sr")))
         self.assertFalse(os.path.exists(os.path.join(self.dir, "out.ksl")))
@@ -236,7 +241,9 @@ class DuctCommands(unittest.TestCase):
     def test_missing_dialog_file_is_told_and_nothing_is_calculated(self):
         d = tee()
         empty_root = tempfile.mkdtemp()
-        printed, doc = self.run_script(d, self.trace(d) + CALC.format(actions=GOOD), root=empty_root)
+        # Neither dialog can be shown, so no dialog actions are queued.
+        script = TRACE_PICK.format(handle=d.root.dxf.handle, pick=1000.0) + "(c:zljs)\n"
+        printed, doc = self.run_script(d, script, root=empty_root)
         self.assertIn("不能装载对话框文件K-SLJS.DCL..", printed)
         self.assertEqual(self.xtext(doc, d.root.dxf.handle, "K_DUCT_G"), "1000.0000000")
         self.assertIsNone(self.xtext(doc, d.root.dxf.handle, "K_DUCT_DP"))

@@ -176,13 +176,19 @@ class DrawnChart(unittest.TestCase):
 class NothingDrawn(unittest.TestCase):
     def test_cancelled_pick_and_bad_input(self):
         with tempfile.TemporaryDirectory() as folder:
-            result = run(folder, '(host-dialog "crti_dtdlg" \'((press "accept")))\n(c:crti_dt)\n'
-                                 '(host-dialog "crti_dtdlg" \'((set "pressure" "300") (press "accept")))\n'
-                                 "(host-getpoint '(0 0))\n(c:crti_dt)\n")
+            # No point is given: the pick is cancelled and nothing is drawn.
+            result = run(folder, '(host-dialog "crti_dtdlg" \'((press "accept")))\n(c:crti_dt)\n')
             self.assertEqual(result.returncode, 0, result.stderr)
             doc = ezdxf.readfile(os.path.join(folder, "out.dxf"))
             self.assertEqual(len(doc.modelspace()), 0)
-
+        with tempfile.TemporaryDirectory() as folder:
+            # A pressure out of range is refused in the dialog, so the queued point is never
+            # asked for: the run says so and fails, and the drawing is not saved.
+            result = run(folder, '(host-dialog "crti_dtdlg" \'((set "pressure" "300") (press "accept")))\n'
+                                 "(host-getpoint '(0 0))\n(c:crti_dt)\n")
+            self.assertEqual(result.returncode, 1, result.stdout)
+            self.assertIn("1 queued point pick was not used", result.stderr)
+            self.assertFalse(os.path.exists(os.path.join(folder, "out.dxf")))
 
 if __name__ == "__main__":
     unittest.main()

@@ -76,12 +76,15 @@ class UnitConvConsole(unittest.TestCase):
         self.assertEqual(out[-2:], ["nil", '"[(F-32)*5/9]"'])
 
     def test_unknown_window_or_control_is_an_error(self):
-        rc, out = run("(c:UnitConv)", act('(click "nosuch")'))
-        self.assertEqual(rc, 1)
-        self.assertIn("; error: no control nosuch in the window", out)
-        rc, out = run('(host-window "nosuch" (quote ((click "ok"))))')
-        self.assertEqual(rc, 1)
-        self.assertIn("; error: no window nosuch", out)
+        # Errors go to standard error as "-e:LINE: ; error: MESSAGE".
+        p = subprocess.run([ADSCON, "-e", "(c:UnitConv)", "-e", act('(click "nosuch")')],
+                           capture_output=True, text=True, timeout=60)
+        self.assertEqual(p.returncode, 1)
+        self.assertIn("; error: no control nosuch in the window", p.stderr)
+        p = subprocess.run([ADSCON, "-e", '(host-window "nosuch" (quote ((click "ok"))))'],
+                           capture_output=True, text=True, timeout=60)
+        self.assertEqual(p.returncode, 1)
+        self.assertIn("; error: no window nosuch", p.stderr)
 
 
 if __name__ == "__main__":
