@@ -35,7 +35,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:crti_dtbl", drawStatePointTable},  // 21
     {L"c:vi_dtbl", viewStatePointTable},  // 22
     {L"c:v_res", viewStatePointResults},  // 23
-    {L"c:constp", notAvailable<24>},  // 24
+    {L"c:constp", airProcess},  // 24
     {L"c:airmix", airMix},  // 25
     {L"c:retair", notAvailable<26>},  // 26
     {L"c:q_res", notAvailable<27>},  // 27

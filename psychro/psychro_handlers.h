@@ -15,6 +15,9 @@ int deleteCoolerResults();     // "c:scdelres"
 int statePoint();  // "c:ci_dt"
 int airMix();      // "c:airmix"
 
+// Air-handling processes
+int airProcess();  // "c:constp"
+
 // The i-d chart and the table of state points on it
 int drawIdChart();           // "c:crti_dt"
 int idChartHelp();           // "c:i_dhlp"
