@@ -49,15 +49,6 @@ bool solveEnd(int (*solver)(AirState&), AirState& end, ProcessResult& r, Process
     return false;
 }
 
-AirState stateOf(double B, double t, double fy) {
-    AirState s;
-    s.B = B;
-    s.t = t;
-    s.fy = fy;
-    StateFromTempHumidity(s);
-    return s;
-}
-
 // The root of the increasing function F between LO and HI (F(LO) < 0 <= F(HI)), by halving.
 double rootBetween(const std::function<double(double)>& f, double lo, double hi) {
     for (int k = 0; k < 200 && hi - lo > 1e-12; ++k) {
@@ -114,7 +105,7 @@ ProcessResult dewPoint(const ProcessInput& in, ProcessResult r) {
         return fail(r, ProcessFault::dewPointT, message);
     }
     if (in.endFy <= r.start.fy || in.endFy > kSaturated) return fail(r, ProcessFault::endFy, kMsgDewPointFy);
-    r.dewPoint = stateOf(r.start.B, in.dewPointT, kSaturated);
+    r.dewPoint = airStateAt(r.start.B, in.dewPointT, kSaturated);
     const AirState& a = r.dewPoint;
     auto along = [&](double s) {
         AirState p;
@@ -142,7 +133,7 @@ ProcessResult adiabatic(const ProcessInput& in, ProcessResult r) {
     }
     if (in.endFy <= r.start.fy) return fail(r, ProcessFault::endFy, kMsgNotMoisterFy);
     if (in.endFy > kSaturated) return fail(r, ProcessFault::endFy, kMsgBeyondSaturation);
-    auto excess = [&](double t) { return stateOf(r.start.B, t, in.endFy).i - r.start.i; };
+    auto excess = [&](double t) { return airStateAt(r.start.B, t, in.endFy).i - r.start.i; };
     const double t = rootBetween(excess, kLowestTemperature, r.start.t);
     r.end.t = t;
     r.end.fy = in.endFy;
@@ -206,6 +197,15 @@ void closeBalances(const ProcessInput& in, ProcessResult& r) {
 }
 
 }  // namespace
+
+AirState airStateAt(double B, double t, double fy) {
+    AirState s;
+    s.B = B;
+    s.t = t;
+    s.fy = fy;
+    StateFromTempHumidity(s);
+    return s;
+}
 
 bool heatMoistureRatio(const AirState& a, const AirState& b, double& epsilon) {
     const double dd = b.d - a.d;

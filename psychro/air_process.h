@@ -64,6 +64,9 @@ ProcessResult computeProcess(const ProcessInput& in);
 // The heat-moisture ratio of the change from A to B, kJ/kg; false (∞) when d does not change.
 bool heatMoistureRatio(const AirState& a, const AirState& b, double& epsilon);
 
+// The state of air at T °C and FY % under B kPa, as the library solves it.
+AirState airStateAt(double B, double t, double fy);
+
 // The designer's name of the kind, e.g. L"等湿加热".
 const wchar_t* processKindName(ProcessKind kind);
 

@@ -35,15 +35,6 @@ std::optional<ProcessInputFault> faultOf(const ProcessReadings& r, ProcessTile t
     return std::nullopt;
 }
 
-AirState stateAt(double B, double t, double fy) {
-    AirState s;
-    s.B = B;
-    s.t = t;
-    s.fy = fy;
-    StateFromTempHumidity(s);
-    return s;
-}
-
 }  // namespace
 
 const ProcessTileSpec& processTileSpec(ProcessTile tile) { return kSpecs[static_cast<int>(tile)]; }
@@ -83,7 +74,7 @@ ProcessInput processInput(const ProcessReadings& r) {
     ProcessInput in;
     in.kind = r.kind;
     const double B = valueOf(r, T::B);
-    in.start = stateAt(B, valueOf(r, T::t1), valueOf(r, T::fy1));
+    in.start = airStateAt(B, valueOf(r, T::t1), valueOf(r, T::fy1));
     in.G = valueOf(r, T::G);
     in.endT = valueOf(r, T::t2);
     in.endFy = valueOf(r, T::fy2);
@@ -93,7 +84,7 @@ ProcessInput processInput(const ProcessReadings& r) {
     const bool byD = r.byD && kindOffersMoisture(r.kind);
     in.given = byD ? EndGiven::moisture : (r.kind == ProcessKind::ratio ? EndGiven::temperature : EndGiven::humidity);
     if (r.kind == ProcessKind::mixing) {
-        in.second = stateAt(B, valueOf(r, T::t3), valueOf(r, T::fy3));
+        in.second = airStateAt(B, valueOf(r, T::t3), valueOf(r, T::fy3));
         in.G2 = valueOf(r, T::g3);
     }
     return in;
