@@ -32,4 +32,12 @@
 (c:crti_dtbl)
 (host-dialog "vi_dtbldlg" '())
 (c:vi_dtbl)
+;; The outdoor air cooled by a coil towards an apparatus dew point of 12 °C, leaving at 95 %:
+;; saved to qres.txt and drawn on the chart with an arrow, the dew point beyond it dashed.
+(host-dialog "constpdlg"
+  '((set "k_adp" "1") (set "B" "99.86") (set "t1" "33.5") (set "fy1" "57") (set "tl" "12")
+    (set "fy2" "95") (set "G" "18000") (set "label1" "W") (set "label2" "L") (set "label3" "A")
+    (press "cal")))
+(host-dialog "constpres" '((press "saveres")))
+(c:constp)
 (princ)

@@ -46,6 +46,7 @@ constexpr const wchar_t* kTextTiles[][2] = {
 // What the dialog held when it last closed, kept while the module is loaded.
 struct Remembered {
     std::map<std::wstring, std::wstring> texts;
+    bool kept = false;  // the dialog has been used: its pressure is the designer's
     ProcessKind kind = ProcessKind::heating;
     bool byD = false;
 };
@@ -93,6 +94,7 @@ void keepTexts(ads_hdlg dialog) {
     Remembered& kept = remembered();
     for (auto& [key, text] : kept.texts) readTileText(dialog, key.c_str(), kInputChars, text);
     kept.byD = toggleOn(dialog, L"by_d");
+    kept.kept = true;
 }
 
 void onKind(ads_callback_packet* packet) {
@@ -152,7 +154,7 @@ void onCalculate(ads_callback_packet* packet) {
 }
 
 void showNumberText(std::wstring& text, double value, int decimals) {
-    wchar_t buffer[64] = {};
+    wchar_t buffer[512] = {};
     acdbRToS(value, 2, decimals, buffer);
     text = buffer;
 }
@@ -231,6 +233,9 @@ int airProcess() {
     if (!dialogs.loaded()) return RTERROR;
     Session session;
     session.dclId = dialogs.dclId();
+    // Until the dialog is used it opens with the pressure another dialog last read.
+    double kPa = 0.0;
+    if (!remembered().kept && rememberedPressure(kPa)) showNumberText(remembered().texts[L"B"], kPa, kRememberedPressureDecimals);
     int status = DLGCANCEL;
     do {
         if (!dialogs.create(kMainDialog, {Channel::Alert, kCannotInitialise})) return RTERROR;
