@@ -32,13 +32,25 @@ void addState(std::vector<JournalQuantity>& out, const std::wstring& whose, cons
     for (const auto& row : rows) out.push_back(quantity((whose + row.name).c_str(), row.unit, row.value));
 }
 
+// Labels are padded to one column of the file as a fixed-width font shows it, where a Chinese
+// character (and ℃) takes two places.
+constexpr int kLabelColumns = 28;
+
+std::wstring paddedLabel(const JournalQuantity& q) {
+    std::wstring label = q.name + (q.unit.empty() ? L"" : L"(" + q.unit + L")");
+    int width = 0;
+    for (wchar_t c : label) width += c >= 0x1100 ? 2 : 1;
+    if (width < kLabelColumns) label.append(static_cast<size_t>(kLabelColumns - width), L' ');
+    return label;
+}
+
 void putRows(std::wstring& out, const std::vector<JournalQuantity>& rows) {
     for (const JournalQuantity& q : rows) {
-        std::wstring label = q.name + (q.unit.empty() ? L"" : L"(" + q.unit + L")");
+        const std::wstring label = paddedLabel(q);
         if (!q.text.empty())
-            appendFormat(out, L"\n         %-24ls:   %ls", label.c_str(), q.text.c_str());
+            appendFormat(out, L"\n         %ls:   %ls", label.c_str(), q.text.c_str());
         else
-            appendFormat(out, L"\n         %-24ls:   %.*lf", label.c_str(), q.decimals, q.value);
+            appendFormat(out, L"\n         %ls:   %.*lf", label.c_str(), q.decimals, q.value);
     }
 }
 
