@@ -7,6 +7,7 @@
 
 #include "psychro/return_air_checks.h"
 #include "psychro/return_air_report.h"
+#include "tests/psychro/return_air_cases.h"
 
 namespace vrn2 {
 namespace {
@@ -83,13 +84,8 @@ TEST(ReturnAirChecks, ValuesAChoiceDoesNotUseAreNotAskedFor) {
     expectFault(r, L"g2_value", L"请输入二次回风量.", "winter secondary flow");
 }
 
-ReturnAirInput summerPrimary() {
-    ReturnAirInput in;  // 22 °C 55 %, 33.2/26.4 °C outdoor, 3.314 kW, 0.9504 kg/h, 15 %, 8 K, 95 %
-    return in;
-}
-
 TEST(ReturnAirReport, TheBlockListsInputsStatesAndLoads) {
-    ReturnAirInput in = summerPrimary();
+    ReturnAirInput in = summerRoom();
     ReturnAirResult r;
     ASSERT_TRUE(computeReturnAir(in, r).empty());
     std::wstring block = returnAirBlock(in, r);
@@ -109,7 +105,7 @@ TEST(ReturnAirReport, TheBlockListsInputsStatesAndLoads) {
 }
 
 TEST(ReturnAirReport, WinterAndSecondaryRowsAndAnInfiniteRatio) {
-    ReturnAirInput in = summerPrimary();
+    ReturnAirInput in = summerRoom();
     in.kind = ReturnAirKind::secondary;
     in.loadSecond = 0.0;  // no moisture: ε is infinite
     ReturnAirResult r;
@@ -152,24 +148,15 @@ std::vector<std::wstring> figure(const ReturnAirInput& in) {
 
 TEST(ReturnAirChart, TheFiguresOfTheTextbook) {
     using V = std::vector<std::wstring>;
-    ReturnAirInput in = summerPrimary();
+    ReturnAirInput in = summerRoom();
     EXPECT_EQ(figure(in), (V{L"W--N", L"C->L", L"L->O", L"O->N"}));
     in.supply = SupplyRule::dewPoint;
     EXPECT_EQ(figure(in), (V{L"W--N", L"C->L", L"L->N"}));
-    in = summerPrimary();
+    in = summerRoom();
     in.kind = ReturnAirKind::secondary;
     EXPECT_EQ(figure(in), (V{L"W--N", L"C1->L", L"L--N", L"O->N"}));
 
-    ReturnAirInput winter = summerPrimary();
-    winter.season = Season::winter;
-    winter.Q = -1.5;
-    winter.tW = -12.0;
-    winter.outdoorWetBulb = false;
-    winter.outdoorSecond = 45.0;
-    winter.fresh = 40.0;
-    winter.supply = SupplyRule::airFlow;
-    winter.supplyValue = 1200.0;
-    winter.preheatLimit = 2.0;
+    ReturnAirInput winter = winterRoom();
     EXPECT_EQ(figure(winter), (V{L"W->W'", L"W'--N", L"C->D", L"D->L", L"L->O", L"O->N"}));
     winter.kind = ReturnAirKind::secondary;
     winter.secondaryFlow = 500.0;
