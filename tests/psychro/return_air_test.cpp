@@ -73,7 +73,8 @@ TEST(ReturnAirSummer, PrimaryReturnMatchesTheWorkedSystem) {
     EXPECT_NEAR(r.reheat, r.G * (state(r, L"O").i - state(r, L"L").i) / 3600.0, 1e-9);
 }
 
-// 赵荣义 等,《空气调节》第4版(中国建筑工业出版社),第3章送风状态与送风量的例题: ΣQ = 3314 W,
+// 赵荣义 等,《空气调节》第4版(中国建筑工业出版社),送风状态与送风量一节的例题 (its number
+// and page were not at hand to check; the figures are the book's as recalled): ΣQ = 3314 W,
 // ΣW = 0.264 g/s, tN = 22 °C, φN = 55 %, Δt0 = 8 K: ε ≈ 12550 kJ/kg, t0 = 14 °C,
 // G ≈ 0.33 kg/s. The book reads the enthalpies off the chart to 1 kJ/kg on a difference of
 // 10 kJ/kg, so G is good to the two figures it gives (and the library's saturation pressure,
