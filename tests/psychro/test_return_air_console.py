@@ -132,7 +132,6 @@ WINTER = """(host-dialog "retairdlg" '((set "sys2" "1") (set "winter" "1") (set 
   (set "ow_fy" "1") (set "ow_value" "45") (set "q_value" "-1.5") (set "m_value" "40") (set "sup_g" "1")
   (set "sup_value" "1200") (set "tp_value" "2") (set "g2_value" "500") (press "cal")))
 (host-dialog "retairres" '((press "saveres") (press "accept")))
-(host-dialog "retairdlg" '((press "cancel")))
 (c:retair)
 """
 
