@@ -45,7 +45,8 @@ std::vector<JournalQuantity> returnAirInputRows(const ReturnAirInput& in) {
         in.outdoorWetBulb ? number(L"室外湿球温度", L"℃", in.outdoorSecond)
                           : number(L"室外相对湿度", L"%", in.outdoorSecond),
         number(L"室内余热量", L"kW", in.Q),
-        in.ratioGiven ? number(L"热湿比", L"kJ/kg", in.loadSecond) : number(L"室内余湿量", L"kg/h", in.loadSecond),
+        // A room's moisture gain is often below 1 kg/h: one more decimal keeps what was typed.
+        in.ratioGiven ? number(L"热湿比", L"kJ/kg", in.loadSecond) : number(L"室内余湿量", L"kg/h", in.loadSecond, 4),
         in.freshFlowGiven ? number(L"新风量", L"kg/h", in.fresh) : number(L"新风比", L"%", in.fresh),
     };
     supplyRows(in, rows);

@@ -92,6 +92,7 @@ TEST(ReturnAirReport, TheBlockListsInputsStatesAndLoads) {
     EXPECT_EQ(block.rfind(L"\n__________________________________________\n\n一次回风系统(夏季)\n(B=101.325kPa)", 0), 0u);
     EXPECT_NE(block.find(L"\n 输入参数:\n         室内干球温度(℃): 22.000"), std::wstring::npos);
     EXPECT_NE(block.find(L"         室外湿球温度(℃): 26.400"), std::wstring::npos);
+    EXPECT_NE(block.find(L"         室内余湿量(kg/h): 0.9504"), std::wstring::npos);
     EXPECT_NE(block.find(L"         送风温差(℃): 8.000"), std::wstring::npos);
     EXPECT_NE(block.find(L"         机器露点相对湿度(%): 95"), std::wstring::npos);
     // The worked figures (return_air_worked.py) rounded to 3 decimals.
