@@ -37,7 +37,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:v_res", viewStatePointResults},  // 23
     {L"c:constp", airProcess},  // 24
     {L"c:airmix", airMix},  // 25
-    {L"c:retair", notAvailable<26>},  // 26
+    {L"c:retair", returnAirSystem},  // 26
     {L"c:q_res", notAvailable<27>},  // 27
     {L"_kzsj1", attachXdataFunction},  // 28
     {L"_getnalt", notAvailable<29>},  // 29

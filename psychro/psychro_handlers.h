@@ -24,4 +24,7 @@ int idChartHelp();           // "c:i_dhlp"
 int drawStatePointTable();   // "c:crti_dtbl"
 int viewStatePointTable();   // "c:vi_dtbl"
 
+// Return-air systems
+int returnAirSystem();  // "c:retair"
+
 }  // namespace vrn2
