@@ -62,7 +62,7 @@ int copyCommand(CommandInput& in) {
     std::vector<Name> objects;
     if (!readObjects(in, objects)) return RTNORM;
     bool single = singleMode();
-    say(single ? L"\nCurrent settings:  Copy mode = Single" : L"\nCurrent settings:  Copy mode = Multiple");
+    inform(single ? L"\nCurrent settings:  Copy mode = Single" : L"\nCurrent settings:  Copy mode = Multiple");
     double base[3];
     int option;
     while (true) {

@@ -120,6 +120,11 @@ int transformObjects(const std::vector<Name>& objects, const Transform& t, bool 
     return done > 0 || refused.empty() ? RTNORM : RTERROR;
 }
 
+void inform(const std::wstring& text) {
+    const SysVarValue* echo = vars().find(L"CMDECHO");
+    if (!echo || echo->integer != 0) say(text);
+}
+
 bool mirrorText() {
     const SysVarValue* v = vars().find(L"MIRRTEXT");
     return v && v->integer != 0;

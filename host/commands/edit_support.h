@@ -33,6 +33,9 @@ int writeCopy(const EditedObject& o, Name& made);
 // could be mapped or at least one was; RTERROR when none could.
 int transformObjects(const std::vector<Name>& objects, const Transform& t, bool copy, std::vector<Name>* made = nullptr);
 
+// A line of the command's settings, shown like its prompts only when CMDECHO is on.
+void inform(const std::wstring& text);
+
 // MIRRTEXT: whether mirrored texts are written backwards.
 bool mirrorText();
 

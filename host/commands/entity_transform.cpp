@@ -72,9 +72,11 @@ std::wstring typeOf(resbuf* list) {
 
 // Puts a group right after the type group (group 0), where acdbEntMod takes it.
 resbuf* addGroup(resbuf* list, int code) {
+    resbuf* type = group(list, 0);
+    if (!type) type = list;
     resbuf* rb = newRb(code);
-    rb->rbnext = list->rbnext;
-    list->rbnext = rb;
+    rb->rbnext = type->rbnext;
+    type->rbnext = rb;
     return rb;
 }
 

@@ -158,7 +158,7 @@ int offsetCommand(CommandInput& in) {
     Settings s;
     const SysVarValue* erase = vars().find(L"OFFSETERASE");
     s.erase = erase && erase->integer == 1;
-    say(std::wstring(L"\nCurrent settings: Erase source=") + (s.erase ? L"Yes" : L"No") +
+    inform(std::wstring(L"\nCurrent settings: Erase source=") + (s.erase ? L"Yes" : L"No") +
         L"  Layer=Source  OFFSETGAPTYPE=0");
     if (!askDistance(in, s)) return RTCAN;
     std::vector<Name> made;

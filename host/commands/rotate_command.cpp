@@ -17,7 +17,7 @@ void sayAngleSettings() {
     const SysVarValue* base = vars().find(L"ANGBASE");
     wchar_t degrees[32];
     std::swprintf(degrees, 32, L"%g", (base ? base->real : 0.0) * 180.0 / 3.14159265358979323846);
-    say(std::wstring(L"\nCurrent positive angle in UCS:  ANGDIR=") +
+    inform(std::wstring(L"\nCurrent positive angle in UCS:  ANGDIR=") +
         (dir && dir->integer == 1 ? L"clockwise" : L"counterclockwise") + L"  ANGBASE=" + degrees);
 }
 
@@ -48,7 +48,7 @@ int rotateCommand(CommandInput& in) {
         if (r == Reply::Cancel) return RTCAN;
         if (r == Reply::Option && option == 0) {
             copy = true;
-            say(L"\nRotating a copy of the selected objects.");
+            inform(L"\nRotating a copy of the selected objects.");
             continue;
         }
         if (r == Reply::Option && !askReference(in, base, turn)) return RTCAN;

@@ -37,7 +37,7 @@ int scaleCommand(CommandInput& in) {
         if (r == Reply::Enter) factor = 1;
         if (r == Reply::Option && option == 0) {
             copy = true;
-            say(L"\nScaling a copy of the selected objects.");
+            inform(L"\nScaling a copy of the selected objects.");
             continue;
         }
         if (r == Reply::Option && !askReference(in, base, factor)) return RTCAN;

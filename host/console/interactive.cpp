@@ -34,10 +34,11 @@ void prompt(const wchar_t* text) {
     std::fflush(stdout);
 }
 
-void evaluate(lisp::Interpreter& interpreter, const std::wstring& expression, int& errors) {
+// A command typed at the prompt shows its prompts, not the value of (command ...).
+void evaluate(lisp::Interpreter& interpreter, const std::wstring& expression, bool showValue, int& errors) {
     try {
         lisp::ValuePtr v = interpreter.evalText(expression, L"<console>");
-        if (!(v && v->kind == lisp::Kind::Void)) emit(OutputKind::CommandLine, lisp::printValue(v) + L"\n");
+        if (showValue && !(v && v->kind == lisp::Kind::Void)) emit(OutputKind::CommandLine, lisp::printValue(v) + L"\n");
     } catch (lisp::LispError& e) {
         interpreter.offerToErrorHandler(e);
         emit(OutputKind::CommandLine, L"; error: " + e.message + L"\n");
@@ -47,11 +48,15 @@ void evaluate(lisp::Interpreter& interpreter, const std::wstring& expression, in
 
 }  // namespace
 
+bool isCommandLine(const std::string& line) {
+    std::wstring text = trimmed(fromUtf8(line));
+    return !text.empty() && std::wstring(L"('\"!").find(text.front()) == std::wstring::npos;
+}
+
 std::wstring expressionOfLine(const std::wstring& line) {
     std::wstring text = trimmed(line);
     if (text.empty()) return {};
-    if (text.front() == L'(' || text.front() == L'\'' || text.front() == L'"') return text;
-    if (text.front() == L'!') return trimmed(text.substr(1));
+    if (!isCommandLine(toUtf8(text))) return text.front() == L'!' ? trimmed(text.substr(1)) : text;
     std::wstring out = L"(command";
     size_t i = 0;
     while (i < text.size()) {
@@ -83,8 +88,9 @@ int runInteractive(lisp::Interpreter& interpreter, std::istream& input) {
             prompt(L"(_> ");
             continue;
         }
+        bool showValue = !isCommandLine(toUtf8(pending));
         pending.clear();
-        if (!expression.empty()) evaluate(interpreter, expression, errors);
+        if (!expression.empty()) evaluate(interpreter, expression, showValue, errors);
         prompt(L"Command: ");
     }
     emit(OutputKind::CommandLine, L"\n");

@@ -18,6 +18,9 @@ namespace host::console {
 // for "!NAME", and (command "WORD" ...) for a command with its answers. Empty for a blank line.
 std::wstring expressionOfLine(const std::wstring& line);
 
+// Whether a typed line is a command with its answers rather than an expression or "!NAME".
+bool isCommandLine(const std::string& line);
+
 // Whether text read so far ends inside a list or a string, so more lines belong to it.
 bool needsMoreLines(const std::wstring& text);
 

@@ -80,7 +80,9 @@ class InteractiveConsole(unittest.TestCase):
             self.assertIn("\n42\n", term.read_until("Command: "))
             # A command and its answers separated by spaces.
             term.type('LINE 0,0 30,40 ""')
-            term.read_until("Command: ")
+            shown = term.read_until("Command: ")
+            self.assertIn("Specify next point", shown)
+            self.assertNotIn("nil", shown)
             term.type("(nosuchfunction)")
             self.assertIn("; error: no function definition: NOSUCHFUNCTION", term.read_until("Command: "))
             code, err = term.finish()

@@ -166,12 +166,12 @@ class EditCommands(unittest.TestCase):
         kind = {e.dxftype(): e for e in new}
         # The arc's ends mirrored, and it runs counter-clockwise from the old end's image.
         a = kind["ARC"]
-        self.assertTrue(near(a.start_point[:2], mirror_x((20, 5))), a.start_point)
-        self.assertTrue(near(a.end_point[:2], mirror_x((25, 0))), a.end_point)
+        self.assertTrue(near(a.start_point, mirror_x((20, 5))), a.start_point)
+        self.assertTrue(near(a.end_point, mirror_x((25, 0))), a.end_point)
         # The half circle through (5,-5) now passes through (-5,-5).
         flat = list(ezpath.make_path(kind["LWPOLYLINE"]).flattening(0.001))
-        self.assertLess(min(math.dist(p[:2], (-5, -5)) for p in flat), 0.01)
-        self.assertLess(max(p[1] for p in flat), 1e-6)
+        self.assertLess(min(math.dist((p.x, p.y), (-5, -5)) for p in flat), 0.01)
+        self.assertLess(max(p.y for p in flat), 1e-6)
         # MIRRTEXT 0: readable (no backward flag), at the mirrored insertion point.
         t = kind["TEXT"]
         self.assertTrue(near(t.dxf.insert, (-10, 3)))
@@ -185,7 +185,7 @@ class EditCommands(unittest.TestCase):
         attribs = r.attribs
         self.assertEqual(len(attribs), 1)
         self.assertEqual(attribs[0].dxf.text, "7")
-        self.assertTrue(near(attribs[0].dxf.insert[:2], mirror_x(ref.attribs[0].dxf.insert)))
+        self.assertTrue(near(attribs[0].dxf.insert, mirror_x(ref.attribs[0].dxf.insert)))
         self.assertNotEqual(attribs[0].dxf.handle, ref.attribs[0].dxf.handle)
 
     def test_mirrtext_one_writes_texts_backwards_and_yes_mirrors_in_place(self):
@@ -258,7 +258,7 @@ class EditCommands(unittest.TestCase):
         self.assertIn("DIMENSION object was left unchanged", out)
         doc = audited(self.out)
         self.assertTrue(near(self.by_handle(doc, line.dxf.handle).dxf.start, (0, 7)))
-        self.assertTrue(near(self.by_handle(doc, dim.dimension.dxf.handle).dxf.defpoint[:2], (0, 5)))
+        self.assertTrue(near(self.by_handle(doc, dim.dimension.dxf.handle).dxf.defpoint, (0, 5, 0)))
 
 
 if __name__ == "__main__":
