@@ -201,6 +201,16 @@ Reply askSecondPoint(CommandInput& in, const std::wstring& promptText, const dou
     return r;
 }
 
+Reply askWithCopy(const std::function<Reply(int& option)>& askValue, const wchar_t* copying, bool& copy) {
+    while (true) {
+        int option = -1;
+        Reply r = askValue(option);
+        if (r != Reply::Option || option != 0) return r;
+        copy = true;
+        inform(copying);
+    }
+}
+
 std::wstring lengthText(double v) {
     wchar_t buf[48];
     std::swprintf(buf, 48, L"%.4f", v);

@@ -3,6 +3,7 @@
 // take (points, numbers, angles, option keywords), re-asked when they do not fit.
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -68,6 +69,11 @@ Reply askDisplacement(CommandInput& in, double d[3]);
 // The move from base to a second point, or (Enter) the base point taken as the move.
 Reply askSecondPoint(CommandInput& in, const std::wstring& promptText, const double base[3], double d[3],
                      std::initializer_list<Option> options, int& option);
+
+// The value prompts of ROTATE and SCALE, whose options are Copy and Reference: asks until an
+// answer is not Copy (which makes the command act on copies, said with copying). Answers
+// Value, Enter, Option (Reference) or Cancel.
+Reply askWithCopy(const std::function<Reply(int& option)>& askValue, const wchar_t* copying, bool& copy);
 
 // The text the command line shows for a length: "1.0000".
 std::wstring lengthText(double v);

@@ -315,16 +315,25 @@ void text(const Mapper& m, resbuf* list, bool mirrorText) {
 void mtext(const Mapper& m, resbuf* list) {
     mapWorld(m, list, 10);
     scaleLengths(m, list, {40, 41, 42, 43, 46});
-    if (resbuf* d = group(list, 11)) {
-        double old = angleOf(d->resval.rpoint);
-        m.worldVector(d->resval.rpoint);
-        normalise(d->resval.rpoint);
-        if (m.flips() && readable(angleOf(d->resval.rpoint), old) != angleOf(d->resval.rpoint))
-            for (int i = 0; i < 3; ++i) d->resval.rpoint[i] = -d->resval.rpoint[i];
-    } else if (resbuf* r = group(list, 50)) {
+    if (resbuf* r = group(list, 50); r && !group(list, 11)) {
         double mapped = m.ownAngle(r->resval.rreal);
         r->resval.rreal = m.flips() ? readable(mapped, r->resval.rreal) : mapped;
+        return;
     }
+    // The direction of the text, world X when the list gives none.
+    resbuf* given = group(list, 11);
+    double d[3] = {1, 0, 0};
+    if (given)
+        for (int i = 0; i < 3; ++i) d[i] = given->resval.rpoint[i];
+    double old = angleOf(d);
+    m.worldVector(d);
+    normalise(d);
+    if (m.flips() && readable(angleOf(d), old) != angleOf(d))
+        for (int i = 0; i < 3; ++i) d[i] = -d[i];
+    bool alongX = std::fabs(d[0] - 1) < 1e-12 && std::fabs(d[1]) < 1e-12 && std::fabs(d[2]) < 1e-12;
+    if (!given && alongX) return;
+    if (!given) given = addGroup(list, 11);
+    for (int i = 0; i < 3; ++i) given->resval.rpoint[i] = d[i];
 }
 
 // A reflected block reference has its X scale negated and is turned half round more.

@@ -41,19 +41,17 @@ int rotateCommand(CommandInput& in) {
     int option;
     if (askPoint(in, L"\nSpecify base point: ", base, {}, option) != Reply::Value) return RTCAN;
     bool copy = false;
-    while (true) {
-        double turn = 0;
-        Reply r = askAngle(in, L"\nSpecify rotation angle or [Copy/Reference] <0>: ", base, false, turn,
-                           {{L"Copy", L"C"}, {L"Reference", L"R"}}, option);
-        if (r == Reply::Cancel) return RTCAN;
-        if (r == Reply::Option && option == 0) {
-            copy = true;
-            inform(L"\nRotating a copy of the selected objects.");
-            continue;
-        }
-        if (r == Reply::Option && !askReference(in, base, turn)) return RTCAN;
-        return transformObjects(objects, Transform::rotation(base, turn), copy);
-    }
+    double turn = 0;
+    Reply r = askWithCopy(
+        [&](int& chosen) {
+            return askAngle(in, L"\nSpecify rotation angle or [Copy/Reference] <0>: ", base, false, turn,
+                            {{L"Copy", L"C"}, {L"Reference", L"R"}}, chosen);
+        },
+        L"\nRotating a copy of the selected objects.", copy);
+    if (r == Reply::Cancel) return RTCAN;
+    if (r == Reply::Enter) turn = 0;
+    if (r == Reply::Option && !askReference(in, base, turn)) return RTCAN;
+    return transformObjects(objects, Transform::rotation(base, turn), copy);
 }
 
 CommandRegistration rotate(L"ROTATE", rotateCommand);

@@ -29,20 +29,17 @@ int scaleCommand(CommandInput& in) {
     int option;
     if (askPoint(in, L"\nSpecify base point: ", base, {}, option) != Reply::Value) return RTCAN;
     bool copy = false;
-    while (true) {
-        double factor = 1;
-        Reply r = askNumber(in, L"\nSpecify scale factor or [Copy/Reference] <1.0000>: ", factor, base, true,
-                            {{L"Copy", L"C"}, {L"Reference", L"R"}}, option);
-        if (r == Reply::Cancel) return RTCAN;
-        if (r == Reply::Enter) factor = 1;
-        if (r == Reply::Option && option == 0) {
-            copy = true;
-            inform(L"\nScaling a copy of the selected objects.");
-            continue;
-        }
-        if (r == Reply::Option && !askReference(in, base, factor)) return RTCAN;
-        return transformObjects(objects, Transform::scaling(base, factor), copy);
-    }
+    double factor = 1;
+    Reply r = askWithCopy(
+        [&](int& chosen) {
+            return askNumber(in, L"\nSpecify scale factor or [Copy/Reference] <1.0000>: ", factor, base, true,
+                             {{L"Copy", L"C"}, {L"Reference", L"R"}}, chosen);
+        },
+        L"\nScaling a copy of the selected objects.", copy);
+    if (r == Reply::Cancel) return RTCAN;
+    if (r == Reply::Enter) factor = 1;
+    if (r == Reply::Option && !askReference(in, base, factor)) return RTCAN;
+    return transformObjects(objects, Transform::scaling(base, factor), copy);
 }
 
 CommandRegistration scale(L"SCALE", scaleCommand);

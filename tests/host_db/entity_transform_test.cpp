@@ -123,6 +123,20 @@ TEST_F(EntityTransform, TextTurnsWithItsRotationAndMirrorsReadableOrBackwards) {
     EXPECT_EQ(find(mirrored.get(), 71)->resval.rint & 2, 2);
 }
 
+TEST_F(EntityTransform, MultilineTextGetsADirectionWhenTurnedAndStaysReadableWhenMirrored) {
+    const double at[3] = {10, 5, 0};
+    RbPtr turned(acutBuildList(RTDXF0, L"MTEXT", 10, at, 40, 2.0, 1, L"Hello", 0));
+    apply({turned.get()}, Transform::rotation(kOrigin, kPi / 2));
+    expectPoint(find(turned.get(), 10), -5, 10);
+    expectPoint(find(turned.get(), 11), 0, 1);  // world X turned a quarter
+
+    RbPtr mirrored(acutBuildList(RTDXF0, L"MTEXT", 10, at, 40, 2.0, 1, L"Hello", 0));
+    apply({mirrored.get()}, Transform::mirror(kOrigin, kUp));
+    expectPoint(find(mirrored.get(), 10), -10, 5);
+    const resbuf* direction = find(mirrored.get(), 11);
+    if (direction) expectPoint(direction, 1, 0);  // still reads left to right
+}
+
 TEST_F(EntityTransform, ScaleMultipliesRadiiHeightsAndWidths) {
     const double c[3] = {10, 10, 0}, base[3] = {0, 0, 0}, at[3] = {4, 2, 0};
     RbPtr circle(acutBuildList(RTDXF0, L"CIRCLE", 10, c, 40, 5.0, 0));

@@ -99,9 +99,11 @@ class EditCommands(unittest.TestCase):
         circle = self.msp.add_circle((10, 0), 2)
         text = self.msp.add_text("ABC", dxfattribs={"height": 2.5, "insert": (10, 0)})
         line = self.msp.add_line((0, 0), (10, 0))
+        note = self.msp.add_mtext("Note", dxfattribs={"insert": (10, 5), "char_height": 2})
         self.save_source()
         run('(setvar "ANGBASE" (/ pi 2))',  # a turn is not measured from ANGBASE
-            '(command "ROTATE" %s %s "" (list 0 0) "C" 90)' % (handle(circle.dxf.handle), handle(text.dxf.handle)),
+            '(command "ROTATE" %s %s %s "" (list 0 0) "C" 90)' % (handle(circle.dxf.handle), handle(text.dxf.handle),
+                                                                   handle(note.dxf.handle)),
             '(setvar "ANGDIR" 1)',  # clockwise
             '(command "ROTATE" %s "" (list 0 0) 30)' % handle(line.dxf.handle),
             '(setvar "ANGDIR" 0)',
@@ -117,6 +119,10 @@ class EditCommands(unittest.TestCase):
         # The reference turn from 45 to 90 degrees about its own insertion point.
         self.assertTrue(near(texts[text.dxf.handle].dxf.insert, (10, 0)))
         self.assertAlmostEqual(texts[text.dxf.handle].dxf.rotation % 360, 45)
+        notes = [m for m in doc.modelspace().query("MTEXT") if m.dxf.handle != note.dxf.handle]
+        self.assertEqual(len(notes), 1)
+        self.assertTrue(near(notes[0].dxf.insert, (-5, 10)))
+        self.assertAlmostEqual(notes[0].get_rotation(), 90)
         turned = self.by_handle(doc, line.dxf.handle)
         a = math.radians(-30)
         self.assertTrue(near(turned.dxf.end, (10 * math.cos(a), 10 * math.sin(a))), turned.dxf.end)
