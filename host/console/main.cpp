@@ -14,6 +14,7 @@
 
 #include "host/console/dialog_view.h"
 #include "host/console/install_layout.h"
+#include "host/console/interactive.h"
 #include "host/db/database.h"
 #include "host/dcl/dialog_script.h"
 #include "host/lisp/interpreter.h"
@@ -146,6 +147,12 @@ Headless forms:
                               the control does not exist
   An empty pick or reply queue answers as a cancelled request (RTCAN; in AutoLISP the
   error "Function cancelled").
+
+Without a script or -e and with a terminal on standard input, adscon shows the command
+line: at "Command: " a typed expression is evaluated and its value printed, "!NAME" shows a
+variable, and other text runs a command with its answers separated by spaces (LINE 0,0 10,0 "").
+An error is printed as "; error: MESSAGE" and the session goes on; end of input (Ctrl+D)
+ends it, and the drawing is saved and rendered as after a script.
 
 Exit status: 0 only when everything asked happened. 1 when an AutoLISP error stopped a
 script or an -e expression (a failing command included), when queued dialog actions name a
@@ -391,6 +398,8 @@ int main(int argc, char** argv) {
             break;
         }
     }
+    // Nothing to run and a person at the terminal: the command line, until end of input.
+    if (o.steps.empty() && isatty(STDIN_FILENO)) console::runInteractive(interpreter, std::cin);
     if (!everythingQueuedWasUsed()) status = kExitLispError;
 
     if (!o.save.empty()) {

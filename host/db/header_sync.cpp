@@ -34,6 +34,7 @@ const Mapping kMappings[] = {
     {L"ELEVATION", "$ELEVATION", 40, Kind::Real},   {L"THICKNESS", "$THICKNESS", 40, Kind::Real},
     {L"LIMMIN", "$LIMMIN", 10, Kind::Point2},       {L"LIMMAX", "$LIMMAX", 10, Kind::Point2},
     {L"EXTMIN", "$EXTMIN", 10, Kind::Point3},       {L"EXTMAX", "$EXTMAX", 10, Kind::Point3},
+    {L"MIRRTEXT", "$MIRRTEXT", 70, Kind::Short},
 };
 
 std::wstring colourText(long long n) {

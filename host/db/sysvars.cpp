@@ -63,6 +63,11 @@ SysVars::SysVars() {
     setShort(L"PDMODE", 0);
     setReal(L"PDSIZE", 0.0);
     setShort(L"TILEMODE", 1);
+    // Editing commands: texts mirrored readable, COPY repeating, OFFSET through a point
+    setShort(L"MIRRTEXT", 0);
+    setShort(L"COPYMODE", 0);
+    setReal(L"OFFSETDIST", -1.0);
+    setShort(L"OFFSETERASE", 0);
     setShort(L"CVPORT", 2);
     // Drawing extents and limits
     const double limmax[3] = {420.0, 297.0, 0.0};
