@@ -189,6 +189,24 @@ TEST_F(ProcessCommand, ASavedHeatingIsInTheFileTheJournalAndOnTheChart) {
     EXPECT_EQ(eval(L"(cdr (assoc 40 (entget (entlast))))"), L"1.5");
 }
 
+TEST_F(ProcessCommand, WithoutAChartASavedProcessDrawsNothingAndTheDialogStaysOpen) {
+    // Steam from 20 °C and 30 % to 60 %: ε = r + 1.84·t = 2536.8 kJ/kg.
+    queue(L"constpdlg", LR"((set "k_steam" "1") (set "t1" "20") (set "fy1" "30") (set "by_d" "0") (set "fy2" "60") (set "G" "1000") (press "cal"))");
+    queue(L"constpres", LR"((press "saveres"))");
+    runOwnCopy();
+    const auto* res = lastDialog(L"constpres");
+    ASSERT_NE(res, nullptr);
+    EXPECT_FALSE(res->tile(L"i_d")->enabled);
+    EXPECT_EQ(res->value(L"r_eps"), L"2536.8");
+    EXPECT_EQ(res->value(L"r_t"), L"20");
+    // The heat comes with the steam's moisture: Q = W·ε/3600.
+    EXPECT_NEAR(std::stod(res->value(L"r_q")), std::stod(res->value(L"r_w")) * 2536.8 / 3600.0, 0.002);
+    EXPECT_NE(qres().find(L"等温加湿"), std::wstring::npos);
+    EXPECT_EQ(runs(L"constpdlg"), 1) << "nothing to draw: the dialog was not closed for it";
+    EXPECT_EQ(eval(L"(entlast)"), L"nil");
+    EXPECT_EQ(vrn2::calculationJournal().size(), 1u);
+}
+
 TEST_F(ProcessCommand, AMixingIsADashedLineWithoutArrowAndTheInputsAreRemembered) {
     fakeChart();
     queue(L"constpdlg", LR"((set "k_mix" "1") (set "t1" "26") (set "fy1" "55") (set "t3" "34") (set "fy3" "50") (set "g3" "1000") (set "G" "3000") (press "cal"))");
