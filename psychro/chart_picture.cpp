@@ -106,9 +106,16 @@ void paintLines(cairo_t* cr, const PixelMap& map, const std::vector<ChartPolylin
     }
 }
 
+// The Chinese face draws no glyph for "℃" (U+2103); the picture writes it as "°C".
+std::string pictureText(std::wstring text) {
+    for (std::size_t at = text.find(L'℃'); at != std::wstring::npos; at = text.find(L'℃', at))
+        text.replace(at, 1, L"°C");
+    return xmlUtf8(text);
+}
+
 // TEXT placed as the chart places it: horizontally by its alignment, vertically centred.
 void paintText(cairo_t* cr, const PixelMap& map, const ChartText& text) {
-    const std::string utf8 = xmlUtf8(text.text);
+    const std::string utf8 = pictureText(text.text);
     cairo_save(cr);
     cairo_set_font_size(cr, std::max(kMinTextPx, text.height * map.scale));
     cairo_translate(cr, map.x(text.at.x), map.y(text.at.y));
