@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <zip.h>
 
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <string>

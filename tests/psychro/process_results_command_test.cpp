@@ -37,7 +37,7 @@ protected:
 };
 
 TEST_F(ProcessResults, TheChoiceDialogTellsWhatThereIs) {
-    queue(L"q_resdlg", {});
+    queue(L"q_resdlg", std::vector<host::DialogAction>{});
     call(L"c:q_res");
     const auto* choice = dialog(L"q_resdlg");
     ASSERT_NE(choice, nullptr);
@@ -47,7 +47,7 @@ TEST_F(ProcessResults, TheChoiceDialogTellsWhatThereIs) {
 
     saveSupplyAir();
     writeFile("qres.txt", "x\n");
-    queue(L"q_resdlg", {});
+    queue(L"q_resdlg", std::vector<host::DialogAction>{});
     call(L"c:q_res");
     choice = dialog(L"q_resdlg");
     EXPECT_EQ(choice->value(L"file_state"), L"过程计算结果文件 qres.txt: 有");
