@@ -4,7 +4,6 @@
 #include <cwchar>
 
 #include "psychro/docx/word_document.h"
-#include "psychro/id_chart.h"
 
 namespace vrn2 {
 namespace {
@@ -14,12 +13,6 @@ constexpr double kChartWidthCm = 15.0;
 // Column widths in twentieths of a point; the page holds about 9400.
 const std::vector<int> kQuantityColumns = {4000, 2400, 1800};
 const std::vector<int> kStateColumns = {1100, 2000, 1500, 1500, 1500, 1500};
-
-std::wstring format(const wchar_t* pattern, double value) {
-    wchar_t text[96];
-    std::swprintf(text, 96, pattern, value);
-    return text;
-}
 
 WordTable quantityTable(const std::vector<JournalQuantity>& quantities) {
     WordTable table{{L"参数", L"数值", L"单位"}, {}, kQuantityColumns};
@@ -96,7 +89,9 @@ std::wstring reportNumber(double value, int decimals) {
     if (!std::isfinite(value)) return L"—";
     wchar_t pattern[16];
     std::swprintf(pattern, 16, L"%%.%df", decimals < 0 ? 0 : decimals > 9 ? 9 : decimals);
-    std::wstring text = format(pattern, value);
+    wchar_t printed[400];  // the largest double in fixed notation has 309 digits
+    if (std::swprintf(printed, 400, pattern, value) < 0) return L"—";
+    std::wstring text = printed;
     // A value that rounds to zero is shown without a sign.
     if (text[0] == L'-' && text.find_first_not_of(L"-0.") == std::wstring::npos) text.erase(0, 1);
     return text;

@@ -1,7 +1,6 @@
 // c:q_res: the process results file qres.txt in the result viewer, or the calculation report
 // written as a Word document. A small dialog asks which, and shows what there is to see: the
 // report needs no result file, only calculations saved since the module was loaded.
-#include <cstdint>
 #include <string>
 
 #include "acedads.h"
@@ -30,9 +29,8 @@ constexpr int kNameChars = 120;
 constexpr int kStatusView = 4;
 constexpr int kStatusReport = 5;
 
-void closeWith(ads_callback_packet* packet) {
-    ads_done_dialog(packet->dialog, static_cast<int>(reinterpret_cast<std::intptr_t>(packet->client_data)));
-}
+void onView(ads_callback_packet* packet) { ads_done_dialog(packet->dialog, kStatusView); }
+void onReport(ads_callback_packet* packet) { ads_done_dialog(packet->dialog, kStatusReport); }
 
 void onHelp(ads_callback_packet* packet) {
     DialogSession help(*static_cast<const int*>(packet->client_data));
@@ -55,8 +53,8 @@ int askChoice() {
     if (!dialogs.create(L"q_resdlg", {Channel::Alert, kMsgCannotCreate})) return DLGCANCEL;
     fillChoice(dialogs.dialog());
     int dclId = dialogs.dclId();
-    dialogs.action(L"view", closeWith, reinterpret_cast<void*>(static_cast<std::intptr_t>(kStatusView)));
-    dialogs.action(L"report", closeWith, reinterpret_cast<void*>(static_cast<std::intptr_t>(kStatusReport)));
+    dialogs.action(L"view", onView);
+    dialogs.action(L"report", onReport);
     dialogs.action(L"help", onHelp, &dclId);
     return dialogs.run();
 }

@@ -50,6 +50,7 @@ TEST(ReportNumbers, RoundedToTheirDecimalsWithoutMinusZero) {
     EXPECT_EQ(vrn2::reportNumber(7.0, 0), L"7");
     EXPECT_EQ(vrn2::reportNumber(std::nan(""), 3), L"—");
     EXPECT_EQ(vrn2::reportNumber(1.0 / 0.0, 3), L"—");
+    EXPECT_EQ(vrn2::reportNumber(1e300, 3).size(), 301u + 4u);
 }
 
 TEST(ReportMarks, EachStateCarriesTheNumberOfItsCalculation) {

@@ -4,20 +4,22 @@ drawn, a state point, a supply-air case and a mixture are computed and saved, an
 writes the Word document. python-docx (another reader of the format) opens it; the headings,
 the units and the values of its tables are checked against the result files the same
 calculations wrote, against figures worked here from the humid-air relations, and against the
-energy and mass balances; the chart picture is decoded here and must be a PNG of the chart's
-proportions with the chart's lines and the red marks on it."""
+energy and mass balances; the chart picture is decoded with zlib alone and must be a PNG of the
+chart's proportions with the chart's lines and the red marks on it."""
 import math
 import os
 import re
-import struct
 import subprocess
+import sys
 import tempfile
 import time
 import unittest
 import zipfile
-import zlib
 
 import docx
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "console"))
+from test_pictures_and_dialogs import read_png  # noqa: E402  the console tests' PNG reader
 
 ADSCON = os.environ.get("ADSCON", "adscon")
 ROOT = os.environ.get("VRN2_ROOT", "")
@@ -64,42 +66,6 @@ def run(folder, script):
     if ROOT:
         args += ["--root", ROOT]
     return subprocess.run(args + [path], capture_output=True, text=True, encoding="utf-8", timeout=300)
-
-
-def png_pixels(data):
-    """Width, height and the rows of (r, g, b) of an 8-bit RGB or RGBA PNG, unfiltered here."""
-    assert data[:8] == b"\x89PNG\r\n\x1a\n", "not a PNG"
-    pos, idat, header = 8, b"", None
-    while pos < len(data):
-        length, kind = struct.unpack(">I4s", data[pos:pos + 8])
-        body = data[pos + 8:pos + 8 + length]
-        if kind == b"IHDR":
-            header = struct.unpack(">IIBBBBB", body)
-        elif kind == b"IDAT":
-            idat += body
-        pos += 12 + length
-    width, height, depth, colour = header[:4]
-    assert depth == 8 and colour in (2, 6), header
-    bpp = 3 if colour == 2 else 4
-    raw, stride, rows, prev = zlib.decompress(idat), width * bpp, [], bytearray(width * bpp)
-    for y in range(height):
-        kind, line = raw[y * (stride + 1)], bytearray(raw[y * (stride + 1) + 1:(y + 1) * (stride + 1)])
-        for x in range(stride):
-            a = line[x - bpp] if x >= bpp else 0
-            b, c = prev[x], prev[x - bpp] if x >= bpp else 0
-            if kind == 1:
-                line[x] = (line[x] + a) & 255
-            elif kind == 2:
-                line[x] = (line[x] + b) & 255
-            elif kind == 3:
-                line[x] = (line[x] + (a + b) // 2) & 255
-            elif kind == 4:
-                p = a + b - c
-                pa, pb, pc = abs(p - a), abs(p - b), abs(p - c)
-                line[x] = (line[x] + (a if pa <= pb and pa <= pc else b if pb <= pc else c)) & 255
-        rows.append(line)
-        prev = line
-    return width, height, [[tuple(r[x * bpp:x * bpp + 3]) for x in range(width)] for r in rows]
 
 
 def file_rows(text, labels):
@@ -217,9 +183,10 @@ class Report(unittest.TestCase):
 
     def test_chart_picture(self):
         (shape,) = self.doc.inline_shapes
-        with zipfile.ZipFile(self.path) as z:
-            png = z.read("word/media/chart.png")
-        width, height, rows = png_pixels(png)
+        picture = os.path.join(self.folder.name, "chart.png")
+        with zipfile.ZipFile(self.path) as z, open(picture, "wb") as f:
+            f.write(z.read("word/media/chart.png"))
+        width, height, rows = read_png(picture)
         # The default chart is 300 × 400 drawing units with its labels around it: scaled into the
         # 1600 × 2000 box, it fills the box in one direction and keeps its proportions.
         self.assertTrue((width == 1600 and height <= 2000) or (height == 2000 and width <= 1600), (width, height))
