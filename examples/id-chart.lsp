@@ -1,6 +1,6 @@
 ;; The i-d chart (焓湿图) in the headless editor: a chart for Beijing's summer pressure,
 ;; three state points on it, a mixture of outdoor and return air, and the table of the
-;; points beside the chart.
+;; points beside the chart; at the end the calculation report as a Word document.
 ;; Run with: build/adscon --cwd build/example-run --save build/example-run/id-chart.dxf examples/id-chart.lsp
 
 ;; The chart at 99.86 kPa, -10..45 °C and 0..30 g/kg, 300 by 400 drawing units, with its
@@ -24,8 +24,9 @@
 (host-dialog "i_dresdlg" '((press "saveres")))
 (c:ci_dt)
 
-;; Mixing 18000 kg/h of outdoor air with 42000 kg/h of return air, drawn on the chart.
+;; Mixing 18000 kg/h of outdoor air with 42000 kg/h of return air, saved and drawn on the chart.
 (host-dialog "airmixdlg" '((set "press" "99.86") (press "procres") (press "i_d")))
+(host-dialog "i_dresdlg" '((press "saveres")))
 (c:airmix)
 
 ;; The table of the three points beside the chart, then listed.
@@ -40,4 +41,10 @@
     (press "cal")))
 (host-dialog "constpres" '((press "saveres")))
 (c:constp)
+
+;; The calculation report 计算书.docx: the saved point and mixture in tables, and the chart
+;; with their states marked.
+(host-dialog "q_resdlg" '((press "report")))
+(host-dialog "q_report" '((press "accept")))
+(c:q_res)
 (princ)

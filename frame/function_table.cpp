@@ -38,7 +38,7 @@ const FunctionEntry kFunctionTable[kFunctionCount + 1] = {
     {L"c:constp", airProcess},  // 24
     {L"c:airmix", airMix},  // 25
     {L"c:retair", returnAirSystem},  // 26
-    {L"c:q_res", notAvailable<27>},  // 27
+    {L"c:q_res", processResults},  // 27
     {L"_kzsj1", attachXdataFunction},  // 28
     {L"_getnalt", notAvailable<29>},  // 29
     {L"_kzsj2", readXdataFunction},  // 30

@@ -13,6 +13,7 @@
 #include "psychro/air_mix.h"
 #include "psychro/chart_marks.h"
 #include "psychro/id_chart.h"
+#include "psychro/journal_entries.h"
 #include "psychro/remembered_pressure.h"
 #include "psychro/state_result_dialog.h"
 
@@ -108,6 +109,7 @@ void onCompute(ads_callback_packet* packet) {
     shown.state.i = mixed.i;
     shown.state.d = mixed.d;
     shown.outcome = StateFromEnthalpyMoisture(shown.state) == RTNORM ? kOutcomeValid : kOutcomeImpossible;
+    shown.journal = mixingEntry(a, b, shown.state, shown.outcome);
     storeMixingRecord(mixingRecord(), a, b, mixed);
     ads_mode_tile(dialog, L"i_d", MODE_ENABLE);
     showMixture(shown);

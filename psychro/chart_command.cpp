@@ -93,7 +93,7 @@ bool drawChart(const ChartRequest& request) {
     const ChartDrawing chart = buildIdChart(request);
     if (!makeChartLayers() || !makeChartEntities(chart.lines, chart.texts)) return false;
     idChart() = chart.chart;
-    drawnChart() = DrawnChart{chart.frame, chart.textHeight, {}};
+    drawnChart() = DrawnChart{chart.frame, chart.textHeight, {}, request};
     return true;
 }
 

@@ -15,6 +15,7 @@ struct DrawnChart {
     ChartFrame frame;
     double textHeight = 1.0;
     std::vector<ChartStatePoint> table;  // rows drawn so far
+    ChartRequest request;  // what the chart was built from: the report draws it again
 };
 DrawnChart& drawnChart();
 

@@ -9,6 +9,7 @@ int deleteSupplyAirResults();  // "c:gsdelres"
 int viewSupplyAirResults();    // "c:gsv_res"
 int viewStatePointResults();   // "c:v_res"
 int viewCoolerResults();       // "c:scv_res"
+int processResults();          // "c:q_res": the process results file, or the calculation report
 int deleteCoolerResults();     // "c:scdelres"
 
 // Psychrometric state point and air mixing

@@ -13,6 +13,7 @@
 #include "psychro/chart_marks.h"
 #include "psychro/chart_state.h"
 #include "psychro/id_chart.h"
+#include "psychro/journal_entries.h"
 #include "psychro/remembered_pressure.h"
 #include "psychro/state_point_choices.h"
 #include "psychro/state_result_dialog.h"
@@ -95,6 +96,7 @@ void onResult(ads_callback_packet* packet) {
     if (!readInputs(packet->dialog, g_choice, shown.state)) return;
     shown.outcome = solveStatePoint(g_choice, shown.state);
     if (shown.outcome == kOutcomeValid) keepCalculatedState(shown.state);
+    shown.journal = statePointEntry(shown.choice, shown.state, shown.outcome);
     runStateResultDialog(session->dclId, shown);
 }
 
@@ -144,6 +146,7 @@ void stateFromPickedPoint(const Session& session) {
     shown.outcome = StateFromEnthalpyMoisture(shown.state) == RTNORM ? kOutcomeValid : kOutcomeImpossible;
     if (shown.outcome == kOutcomeValid) keepCalculatedState(shown.state);
     if (session.markPickedPoint) markChartPoint(picked, chart.markDiameter);
+    shown.journal = statePointEntry(shown.choice, shown.state, shown.outcome);
     runStateResultDialog(session.dclId, shown);
 }
 

@@ -38,6 +38,7 @@ void onSave(ads_callback_packet* packet) {
     const auto* shown = static_cast<const ShownState*>(packet->client_data);
     if (!shown) return;
     if (!appendStatePointBlock(kStatePointFileName, statePointBlock(shown->choice, shown->state))) return;
+    recordCalculation(shown->journal);
     acutPrintf(kMsgSaved);
     ads_done_dialog(packet->dialog, DLGOK);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "psychro/airstate/airstate.h"
+#include "psychro/calculation_journal.h"
 #include "psychro/state_point_choices.h"
 
 namespace vrn2 {
@@ -15,6 +16,7 @@ struct ShownState {
     AirState state;
     StatePointOutcome outcome = kOutcomeNone;
     int choice = kChoicePickedPoint;  // the heading its block is saved under
+    JournalEntry journal;  // recorded for the calculation report when the state is saved
 };
 
 // The value tiles in the order of the fields they show.

@@ -5,6 +5,7 @@
 #include "adsdlg.h"
 #include "frame/dialog_session.h"
 #include "frame/tile_numbers.h"
+#include "psychro/journal_entries.h"
 #include "psychro/supply_air_report.h"
 
 namespace vrn2 {
@@ -18,7 +19,7 @@ constexpr wchar_t kOnlyFlowAndTemp[] = L"只能求出送风量与送风温度";
 
 struct ShownResult {
     const SupplyAirInput* input;
-    bool complete;
+    const SupplyAirResult* result;
 };
 
 std::wstring tileText(ads_hdlg dialog, const wchar_t* key) {
@@ -39,11 +40,12 @@ void saveShownResult(ads_callback_packet* packet) {
     shown.fy = tileText(packet->dialog, L"rh_value");
     shown.i = tileText(packet->dialog, L"i_value");
     shown.ts = tileText(packet->dialog, L"ts_value");
-    shown.complete = shownResult->complete;
+    shown.complete = shownResult->result->complete;
     if (!appendSupplyAirReport(kSupplyAirResultFile, *shownResult->input, shown)) {
         acedAlert(kCannotCreateFile);
         return;
     }
+    recordCalculation(supplyAirEntry(*shownResult->input, *shownResult->result));
     acutPrintf(kSaved);
     ads_done_dialog(packet->dialog, DLGOK);
 }
@@ -67,7 +69,7 @@ void showSupplyAirResult(int dclId, const SupplyAirInput& in, const SupplyAirRes
     DialogSession dialogs(dclId);
     if (!dialogs.create(kResultDialog, {Channel::Alert, kCannotInitialise})) return;
     fillResultTiles(dialogs.dialog(), result);
-    ShownResult shown{&in, result.complete};
+    ShownResult shown{&in, &result};
     dialogs.action(L"saveres", saveShownResult, &shown);
     dialogs.run();
 }

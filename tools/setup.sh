@@ -7,7 +7,7 @@ build="$here/build"
 what=${1:-example}
 
 packages=(cmake ninja-build g++ pkg-config libcairo2-dev fonts-wqy-microhei libgtest-dev libgmock-dev
-          libbenchmark-dev python3 python3-ezdxf netpbm)
+          libbenchmark-dev libzip-dev python3 python3-ezdxf python3-docx netpbm)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
