@@ -93,6 +93,26 @@ void placeGroup(resbuf* rb, Kind kind, const Placement& p) {
     }
 }
 
+// Adds a real group the entity lacks, with its default value, so that placing can change it.
+void ensureReal(resbuf* list, int code, double value) {
+    if (findGroup(list, code)) return;
+    resbuf* last = list;
+    while (last->rbnext && last->rbnext->restype != -3) last = last->rbnext;
+    if (resbuf* g = newRb(code)) {
+        g->resval.rreal = value;
+        g->rbnext = last->rbnext;
+        last->rbnext = g;
+    }
+}
+
+// Sizes and angles that stay at their defaults unless the entity gives them.
+void ensureDefaults(resbuf* list, Kind kind) {
+    if (kind == Kind::Text || (kind == Kind::MText && !findGroup(list, 11))) ensureReal(list, 50, 0.0);
+    if (kind != Kind::Insert) return;
+    for (int code : {41, 42, 43}) ensureReal(list, code, 1.0);
+    ensureReal(list, 50, 0.0);
+}
+
 }  // namespace
 
 double placeAngle(const Placement& p, double angle) {
@@ -102,6 +122,7 @@ double placeAngle(const Placement& p, double angle) {
 bool placeEntity(resbuf* list, const Placement& p) {
     Kind kind;
     if (!kindOf(typeOf(list), kind) || !onPlan(list)) return false;
+    ensureDefaults(list, kind);
     for (resbuf* rb = list; rb && rb->restype != -3; rb = rb->rbnext) placeGroup(rb, kind, p);
     // A light-weight polyline without an elevation lies at 0, which may be placed off it.
     if (kind == Kind::LightPolyline && !findGroup(list, 38) && placeZ(p, 0.0) != 0.0)
