@@ -191,6 +191,31 @@ TEST_F(DrawingCommands, PolylineCloseUndoAndBadAnswers) {
     EXPECT_EQ(all(L"LWPOLYLINE").size(), 1u);
 }
 
+TEST_F(DrawingCommands, PolylineInAnR12DrawingIsOldStyleAndExplodesToo) {
+    openDxf("  0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n");
+    // Eastwards to (10,0), then a half circle to (10,10): it leaves eastwards, so its
+    // centre is (10,5), radius 5, counter-clockwise from 270 to 90 degrees.
+    const double a[3] = {0, 0, 0}, b[3] = {10, 0, 0}, c[3] = {10, 10, 0};
+    ASSERT_EQ(acedCommand(RTSTR, L"PLINE", RTPOINT, a, RTPOINT, b, RTSTR, L"A", RTPOINT, c, RTSTR, L"", 0), RTNORM);
+    ASSERT_EQ(all(L"LWPOLYLINE").size(), 0u);
+    auto polylines = all(L"POLYLINE");
+    ASSERT_EQ(polylines.size(), 1u);
+    ads_name head, vertex;
+    acdbNameSet(find(polylines[0].get(), -1)->resval.rlname, head);
+    ASSERT_EQ(acdbEntNext(head, vertex), RTNORM);
+    ASSERT_EQ(acdbEntNext(vertex, vertex), RTNORM);
+    EXPECT_NEAR(real(get(vertex).get(), 42), 1.0, 1e-12) << "a half circle has the bulge 1";
+    ASSERT_EQ(acedCommand(RTSTR, L"EXPLODE", RTENAME, head, RTSTR, L"", 0), RTNORM);
+    EXPECT_EQ(all(L"POLYLINE").size(), 0u);
+    EXPECT_EQ(all(L"LINE").size(), 1u);
+    auto arcs = all(L"ARC");
+    ASSERT_EQ(arcs.size(), 1u);
+    EXPECT_NEAR(point(arcs[0].get(), 10)[1], 5.0, 1e-12);
+    EXPECT_NEAR(real(arcs[0].get(), 40), 5.0, 1e-12);
+    EXPECT_NEAR(real(arcs[0].get(), 50), 3 * kPi / 2, 1e-12);
+    EXPECT_NEAR(real(arcs[0].get(), 51), kPi / 2, 1e-12);
+}
+
 TEST_F(DrawingCommands, InsertPlacesAttributesWithScaleAndRotation) {
     makeTagBlock();
     const double at[3] = {100, 50, 0};
