@@ -175,13 +175,13 @@ int makeReference(const Reference& r, const std::vector<std::wstring>& values) {
         insert->rbnext = follows;
     }
     if (int s = makeWithCurrentProperties(insert.release()); s != RTNORM) return s;
+    if (!attributes) return RTNORM;  // none defined, or the reference is to be exploded
     size_t i = 0;
     for (const auto& e : r.block.entities) {
         if (typeOf(e.get()) != L"ATTDEF" || (flagsOf(e.get()) & kConstant)) continue;
-        RbPtr attribute = attributeOf(e.get(), values[i++], p);
+        RbPtr attribute = attributeOf(e.get(), i < values.size() ? values[i++] : L"", p);
         if (int s = acdbEntMake(attribute.get()); s != RTNORM) return s;
     }
-    if (!attributes) return RTNORM;
     RbPtr end(acutBuildList(RTDXF0, L"SEQEND", 0));
     return acdbEntMake(end.get());
 }

@@ -318,6 +318,16 @@ TEST_F(DrawingCommands, ExplodeInsertBringsBackTheDefinitionsPlaced) {
     EXPECT_EQ(text(find(defs[0].get(), 1)), L"1") << "the definition's default, not the value given";
     EXPECT_NEAR(point(defs[0].get(), 10)[0], 98.0, 1e-9);
 
+    // "*TAG" inserts the block's entities themselves: nothing asked for its attribute.
+    const double origin[3] = {0, 0, 0};
+    ASSERT_EQ(acedCommand(RTSTR, L"INSERT", RTSTR, L"*TAG", RTPOINT, origin, RTREAL, 1.0, RTSTR, L"", RTREAL, 0.0, 0),
+              RTNORM);
+    EXPECT_EQ(all(L"INSERT").size(), 0u);
+    defs = all(L"ATTDEF");
+    ASSERT_EQ(defs.size(), 2u);
+    EXPECT_NEAR(point(defs[1].get(), 10)[0], 2.0, 1e-12) << "(12,1) from the base (10,0)";
+    EXPECT_NEAR(point(defs[1].get(), 10)[1], 1.0, 1e-12);
+
     // Unequal scales are refused and the reference stays.
     ASSERT_EQ(acedCommand(RTSTR, L"INSERT", RTSTR, L"TAG", RTPOINT, at, RTREAL, 2.0, RTREAL, 1.0, RTREAL, 0.0, RTSTR,
                           L"", 0),
