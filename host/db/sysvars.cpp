@@ -61,6 +61,13 @@ SysVars::SysVars() {
     setString(L"TEXTSTYLE", L"Standard");
     setReal(L"TEXTSIZE", 2.5);
     setShort(L"PDMODE", 0);
+    // Defaults of the drawing commands: the last circle's radius, the polyline width, the
+    // block last inserted, and attribute values asked on the command line (no dialog)
+    setReal(L"CIRCLERAD", 0.0);
+    setReal(L"PLINEWID", 0.0);
+    setString(L"INSNAME", L"");
+    setShort(L"ATTREQ", 1);
+    setShort(L"ATTDIA", 0);
     setReal(L"PDSIZE", 0.0);
     setShort(L"TILEMODE", 1);
     // Editing commands: texts mirrored readable, COPY repeating, OFFSET through a point

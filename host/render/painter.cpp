@@ -66,18 +66,32 @@ void Painter::usePen(const Pen& pen) {
 
 void Painter::paintEntity(uint32_t index, const std::optional<Pen>& outer, int depth) {
     const db::Record& r = db_.record(index);
-    if (r.kind != db::RecordKind::Entity || r.deleted) return;
+    const std::string& type = db_.typeName(r);
+    // Attributes follow their block reference; shown unless marked invisible (flag 1).
+    bool attribute = type == "ATTRIB";
+    if ((r.kind != db::RecordKind::Entity && !attribute) || r.deleted) return;
     db::GroupList g;
     db::decodeGroups(db_, r.groups, g, nullptr);
     if (const db::Group* space = db::findCode(g, 67); space && space->integer == 1) return;
+    if (const db::Group* flags = db::findCode(g, 70); attribute && flags && (flags->integer & 1)) return;
     std::optional<Pen> pen = entityPen(db_, g, outer);
     if (!pen) return;
     usePen(*pen);
-    const std::string& type = db_.typeName(r);
-    if (type == "TEXT") lettering_.paintText(cr_, db_, g);
+    if (type == "TEXT" || attribute) lettering_.paintText(cr_, db_, g);
+    else if (type == "ATTDEF") paintDefinition(g, depth);
     else if (type == "MTEXT") lettering_.paintMText(cr_, db_, g);
     else if (type == "INSERT") paintInsert(g, *pen, depth);
     else paintShape(index, type, g, *pen);
+}
+
+// An attribute definition shows its tag where it stands in model space; inside a block
+// reference the attributes show instead.
+void Painter::paintDefinition(db::GroupList g, int depth) {
+    const db::Group* tag = db::findCode(g, 2);
+    db::Group* value = db::findCode(g, 1);
+    if (depth > 0 || !tag || !value) return;
+    *value = db::stringGroup(1, tag->text);
+    lettering_.paintText(cr_, db_, g);
 }
 
 void Painter::paintInsert(const db::GroupList& g, const Pen& pen, int depth) {

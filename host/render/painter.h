@@ -23,6 +23,7 @@ public:
 private:
     void paintEntity(uint32_t index, const std::optional<Pen>& outer, int depth);
     void paintInsert(const db::GroupList& g, const Pen& pen, int depth);
+    void paintDefinition(db::GroupList g, int depth);
     void paintShape(uint32_t index, const std::string& type, const db::GroupList& g, const Pen& pen);
     void usePen(const Pen& pen);
 
