@@ -37,8 +37,10 @@ case "$what" in
     "${con[@]}" "$here/examples/coil-check.lsp"
     show "$out/gscal.txt"; show "$out/wair002.txt"; show "$out/sccal.txt"
 
-    # The i-d chart with state points, a picked point, a mixture and the table of points.
+    # The i-d chart with state points, a picked point, a mixture, the table of points and a coil
+    # process; the calculation report 计算书.docx.
     "${con[@]}" --save "$out/id-chart.dxf" --render "$out/id-chart.png" "$here/examples/id-chart.lsp"
+    show "$out/qres.txt"
 
     # A supply-air duct network of an office floor: traced, calculated, the main path recoloured.
     "${con[@]}" --drawing "$here/examples/office-supply.dxf" --save "$out/office-supply.dxf" \
