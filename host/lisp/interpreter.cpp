@@ -60,10 +60,16 @@ ValuePtr Interpreter::builtin(const std::wstring& upperName) const {
 }
 
 void Interpreter::offerToErrorHandler(LispError& e) {
-    if (e.handled || catching_ > 0) return;
+    // An error inside the handler is not offered to it again: that would call it for ever.
+    if (e.handled || catching_ > 0 || inErrorHandler_) return;
     e.handled = true;
     ValuePtr handler = symbolValue(L"*ERROR*");
     if (!handler || (handler->kind != Kind::Lambda && handler->kind != Kind::Subr)) return;
+    struct Running {
+        bool& flag;
+        explicit Running(bool& f) : flag(f) { flag = true; }
+        ~Running() { flag = false; }
+    } running(inErrorHandler_);
     try {
         apply(handler, {makeStr(e.message)});
     } catch (const LispError&) {
@@ -126,6 +132,7 @@ ValuePtr Interpreter::evalText(std::wstring_view text, const std::wstring& sourc
 }
 
 ValuePtr Interpreter::eval(const ValuePtr& form) {
+    step();
     if (isNil(form)) return nil();
     switch (form->kind) {
     case Kind::Sym: {

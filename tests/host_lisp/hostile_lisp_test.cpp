@@ -122,4 +122,35 @@ TEST_F(HostileLisp, IntegerGroupsRefuseARealThatDoesNotFit) {
     EXPECT_EQ(eval(L"(sslength (ssget \"X\" (list (cons 62 1.0))))"), L"1");
 }
 
+TEST_F(HostileLisp, AStepBudgetEndsLoopsWithoutEndAsACancelledFunction) {
+    // Without a budget a long loop runs to its end.
+    EXPECT_EQ(eval(L"(setq i 0) (while (< i 300000) (setq i (1+ i))) i"), L"300000");
+    interpreter_->limitSteps(10000);
+    EXPECT_EQ(eval(L"(while t)"), L"; error: Function cancelled");
+    interpreter_->limitSteps(10000);
+    EXPECT_EQ(eval(L"(repeat 2000000000)"), L"; error: Function cancelled");
+    interpreter_->limitSteps(100000);  // deep recursion meets the stack's limit first
+    EXPECT_EQ(eval(L"(defun f (n) (f n)) (f 1)"), L"; error: stack overflow");
+    // Each turn of (repeat 100 (setq n (1+ n))) is 4 steps: the turn, the setq form, the
+    // (1+ n) form and the symbol n; with the 5 steps around it 405 in all.
+    interpreter_->limitSteps(405);
+    EXPECT_EQ(eval(L"(setq n 0) (repeat 100 (setq n (1+ n))) n"), L"100");
+    interpreter_->limitSteps(404);
+    EXPECT_EQ(eval(L"(setq n 0) (repeat 100 (setq n (1+ n))) n"), L"; error: Function cancelled");
+    EXPECT_EQ(eval(L"n"), L"; error: Function cancelled");  // spent stays spent
+}
+
+TEST_F(HostileLisp, AnErrorInsideTheErrorHandlerIsNotHandedToItAgain) {
+    // The handler fails itself; it runs once and the first error ends the evaluation.
+    std::wstring failing = L"(setq calls 0) "
+                           L"(defun *error* (msg) (setq calls (1+ calls) seen msg) (mapcar 'setvar ' '(\"OSMODE\"))) "
+                           L"(defun f () (/ 10 (length nil))) ";
+    EXPECT_EQ(eval(failing + L"(f)"), L"; error: divide by zero");
+    EXPECT_EQ(eval(L"calls"), L"1");
+    EXPECT_EQ(eval(L"seen"), L"\"divide by zero\"");
+    // A later error is offered to the handler again.
+    EXPECT_EQ(eval(L"(f)"), L"; error: divide by zero");
+    EXPECT_EQ(eval(L"calls"), L"2");
+}
+
 }  // namespace
