@@ -3,15 +3,16 @@
 // exhausting the stack, and numbers that do not fit an integer are not cast.
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include <algorithm>
+#include <filesystem>
+#include <string>
 
 #include "acutads.h"
 #include "adscodes.h"
 #include "host/text.h"
 #include "host/runtime/convert.h"
 #include "tests/support/host_session.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 
@@ -151,6 +152,26 @@ TEST_F(HostileLisp, AnErrorInsideTheErrorHandlerIsNotHandedToItAgain) {
     // A later error is offered to the handler again.
     EXPECT_EQ(eval(L"(f)"), L"; error: divide by zero");
     EXPECT_EQ(eval(L"calls"), L"2");
+}
+
+TEST_F(HostileLisp, FileNamesPastAsciiAreOpenedFoundAndTakenApart) {
+    testing_support::TemporaryFolder folder;
+    folder.write("载入.lsp", "(setq loaded \"yes\")");
+    std::wstring dir = folder.dir().wstring();  // ASCII
+    std::wstring file = dir + L"/报告.txt";
+    auto quoted = [](const std::wstring& s) { return L"\"" + s + L"\""; };
+    EXPECT_EQ(eval(L"(setq f (open " + quoted(file) + L" \"w\")) (write-line \"第一行\" f) (close f)"), L"nil");
+    EXPECT_TRUE(std::filesystem::is_regular_file(folder.dir() / "报告.txt"));
+    EXPECT_EQ(eval(L"(setq f (open " + quoted(file) + L" \"r\")) (setq l (read-line f)) (close f) l"),
+              L"\"第一行\"");
+    EXPECT_EQ(eval(L"(vl-filename-base " + quoted(file) + L")"), L"\"报告\"");
+    EXPECT_EQ(eval(L"(vl-filename-extension " + quoted(file) + L")"), L"\".txt\"");
+    EXPECT_EQ(eval(L"(vl-filename-directory " + quoted(file) + L")"), quoted(dir));
+    EXPECT_EQ(eval(L"(vl-directory-files " + quoted(dir) + L" \"*.txt\" 1)"), L"(\"报告.txt\")");
+    EXPECT_EQ(eval(L"(findfile " + quoted(file) + L")"), quoted(file));
+    EXPECT_EQ(eval(L"(load " + quoted(dir + L"/载入.lsp") + L") loaded"), L"\"yes\"");
+    // A name that is no file at all is an answer, not a fault.
+    EXPECT_EQ(eval(L"(open \"" + dir + L"/\uFFFD/无.txt\" \"r\")"), L"nil");
 }
 
 }  // namespace
