@@ -36,6 +36,18 @@ TEST_F(HostileLisp, DeepNestingAndQuoteChainsAreRefusedAsAStackOverflow) {
     EXPECT_EQ(eval(L"'''x"), L"(QUOTE (QUOTE X))");
 }
 
+TEST_F(HostileLisp, RecursionThroughBuiltInsThatCallBackIsAStackOverflow) {
+    // Each level passes through mapcar, apply, vl-sort or vl-some as well as the evaluator.
+    EXPECT_EQ(eval(L"(defun f (n) (mapcar 'f (list n))) (f 1)"), L"; error: stack overflow");
+    EXPECT_EQ(eval(L"(defun g (n) (apply 'g (list n))) (g 1)"), L"; error: stack overflow");
+    EXPECT_EQ(eval(L"(defun h (n) (vl-sort (list 1 2) '(lambda (a b) (h 1)))) (h 1)"), L"; error: stack overflow");
+    EXPECT_EQ(eval(L"(defun q (n) (vl-some 'q (list n))) (q 1)"), L"; error: stack overflow");
+    EXPECT_EQ(eval(L"(defun m (n) (vl-catch-all-apply 'm (list n))) (vl-catch-all-error-message (m 1))"),
+              L"\"stack overflow\"");
+    // Afterwards evaluation goes on as before.
+    EXPECT_EQ(eval(L"(mapcar '1+ (list 1 2))"), L"(2 3)");
+}
+
 TEST_F(HostileLisp, LongListsAreFreedAndComparedWithoutRecursion) {
     // A million cells freed when the symbol is set again.
     EXPECT_EQ(eval(L"(setq l nil) (repeat 1000000 (setq l (cons 1 l))) (length l)"), L"1000000");
