@@ -1,5 +1,6 @@
 // AutoLISP: text is read and every form evaluated by the console's interpreter; an AutoLISP
-// error is an answer, anything else (a crash, undefined behaviour, a hang) is a fault.
+// error is an answer, anything else (a crash, undefined behaviour, a hang) is a fault. Each run
+// has a budget of evaluation steps, so a loop without end is an answer ("Function cancelled").
 #include <cstdint>
 #include <string>
 
@@ -15,6 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     host::Host::instance().openDocument(L"");
     std::string text(reinterpret_cast<const char*>(data), size);
     host::lisp::Interpreter lisp;
+    lisp.limitSteps(200000);  // a program looping for ever is AutoLISP too; it is cut short
     try {
         lisp.evalText(host::fromUtf8(text));
     } catch (const host::lisp::LispError&) {

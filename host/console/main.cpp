@@ -17,6 +17,7 @@
 #include "host/console/interactive.h"
 #include "host/db/database.h"
 #include "host/dcl/dialog_script.h"
+#include "host/file_names.h"
 #include "host/lisp/interpreter.h"
 #include "host/output.h"
 #include "host/render/picture.h"
@@ -365,11 +366,11 @@ int main(int argc, char** argv) {
         if (!database) return usageError("cannot open drawing " + o.drawing + ": " + toUtf8(error));
         // What the reader repaired on the way in, as the editor reports it when it opens a file.
         for (const auto& warning : database->warnings()) std::cout << "Warning: " << toUtf8(warning) << "\n";
-        drawingName = fs::absolute(o.drawing).wstring();
+        drawingName = nameOf(fs::absolute(o.drawing));
     } else {
         database = std::make_unique<db::Database>();
     }
-    if (!o.save.empty() && drawingName.empty()) drawingName = fs::absolute(o.save).wstring();
+    if (!o.save.empty() && drawingName.empty()) drawingName = nameOf(fs::absolute(o.save));
 
     if (!o.cwd.empty()) {
         std::error_code ec;

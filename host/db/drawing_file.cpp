@@ -12,6 +12,7 @@
 #include "host/db/database.h"
 #include "host/db/dxf_writer.h"
 #include "host/db/save_fault.h"
+#include "host/file_names.h"
 #include "host/session.h"
 #include "host/text.h"
 
@@ -70,31 +71,31 @@ std::unique_ptr<Database> Database::load(const std::filesystem::path& given, std
     std::filesystem::path path = platformPath(given);
     std::error_code ec;
     if (std::filesystem::is_directory(path, ec)) {
-        error = L"cannot open " + path.wstring() + L": it is a folder";
+        error = L"cannot open " + host::nameOf(path) + L": it is a folder";
         return nullptr;
     }
     int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (fd < 0) {
-        error = L"cannot open " + path.wstring() + L": " + systemError(errno);
+        error = L"cannot open " + host::nameOf(path) + L": " + systemError(errno);
         return nullptr;
     }
     struct stat st{};
     if (::fstat(fd, &st) != 0) {
-        error = L"cannot read " + path.wstring() + L": " + systemError(errno);
+        error = L"cannot read " + host::nameOf(path) + L": " + systemError(errno);
         ::close(fd);
         return nullptr;
     }
     auto size = static_cast<size_t>(st.st_size);
     if (size == 0) {
         ::close(fd);
-        return parse({}, path.filename().wstring(), error);
+        return parse({}, host::nameOf(path.filename()), error);
     }
     // The file is read through a mapping whose pages are let go once the reader is past
     // them, so that a large drawing is not held twice while it is read.
     void* map = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, fd, 0);
     ::close(fd);
     if (map == MAP_FAILED) {
-        error = L"cannot read " + path.wstring() + L": " + systemError(errno);
+        error = L"cannot read " + host::nameOf(path) + L": " + systemError(errno);
         return nullptr;
     }
     ::madvise(map, size, MADV_SEQUENTIAL);
@@ -109,7 +110,7 @@ std::unique_ptr<Database> Database::load(const std::filesystem::path& given, std
         ::madvise(base + released, end - released, MADV_DONTNEED);
         released = end;
     };
-    auto db = parse(std::string_view(base, size), path.filename().wstring(), error, consumed);
+    auto db = parse(std::string_view(base, size), host::nameOf(path.filename()), error, consumed);
     ::munmap(map, size);
     return db;
 }
@@ -124,7 +125,7 @@ bool Database::save(const std::filesystem::path& given, std::wstring& error) con
     std::string pattern = (folder / ("." + name + ".XXXXXX")).string();
     int fd = mkstemp(pattern.data());
     if (fd < 0) {
-        error = L"cannot save " + path.wstring() + L": " + systemError(errno);
+        error = L"cannot save " + host::nameOf(path) + L": " + systemError(errno);
         return false;
     }
     std::string temp = pattern;
@@ -150,7 +151,7 @@ bool Database::save(const std::filesystem::path& given, std::wstring& error) con
     }
     if (!ok) {
         ::unlink(temp.c_str());
-        error = L"cannot save " + path.wstring() + L": " + systemError(err ? err : EIO) +
+        error = L"cannot save " + host::nameOf(path) + L": " + systemError(err ? err : EIO) +
                 L"; the previous file is unchanged";
     }
     return ok;

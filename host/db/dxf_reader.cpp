@@ -289,6 +289,7 @@ bool DxfReader::readTables() {
                                     quoted(g.value));
         size_t tableLine = g.line;
         Table table;
+        std::vector<size_t> entryLines;
         if (!readRecord(g, RecordKind::TableHead, table.head)) return false;
         std::string_view name;
         if (findGroup(db_.records_[table.head].groups, 2, name)) table.name = upper(trimBlanks(name));
@@ -304,13 +305,74 @@ bool DxfReader::readTables() {
                 return fail(g.line, L"the table at line " + std::to_wstring(tableLine) +
                                         L" is not closed by ENDTAB");
             uint32_t entry;
+            size_t entryLine = g.line;
             if (!readRecord(g, RecordKind::TableEntry, entry)) return false;
             table.entries.push_back(entry);
+            entryLines.push_back(entryLine);
         }
         if (!closed) return false;
-        db_.tables_.push_back(std::move(table));
+        addTable(std::move(table), entryLines);
     }
     return false;
+}
+
+// A table given again (in a second TABLES section, or twice in one) adds its entries to the
+// first: the drawing is written with one table of each name, whose entries are all found by
+// name. An entry whose name the table holds already is left out with a warning; viewports are
+// the exception, as several of one name make a tiled configuration.
+void DxfReader::addTable(Table table, const std::vector<size_t>& entryLines) {
+    Table* first = table.name.empty() ? nullptr : db_.table(table.name);
+    if (!first) {
+        db_.tables_.push_back(std::move(table));
+        return;
+    }
+    auto drop = [this](uint32_t index) {
+        if (index == kNone) return;
+        db_.records_[index].deleted = true;
+        db_.records_[index].handle = 0;
+    };
+    uint64_t oldOwner = db_.records_[table.head].handle;
+    uint64_t owner = db_.records_[first->head].handle;
+    std::unordered_set<std::string> names;
+    for (uint32_t index : first->entries) names.insert(upper(trimBlanks(entryName(index))));
+    for (size_t i = 0; i < table.entries.size(); ++i) {
+        uint32_t index = table.entries[i];
+        std::string name = upper(trimBlanks(entryName(index)));
+        if (table.name != "VPORT" && !names.insert(name).second) {
+            drop(index);
+            db_.warnings_.push_back(L"the " + fromUtf8(table.name) + L" table names " + fromUtf8(name) +
+                                    L" twice; the entry at line " + std::to_wstring(entryLines[i]) +
+                                    L" was left out");
+            continue;
+        }
+        if (owner && oldOwner) replaceOwner(index, oldOwner, owner);
+        first->entries.push_back(index);
+    }
+    drop(table.head);
+    drop(table.end);
+}
+
+std::string_view DxfReader::entryName(uint32_t index) const {
+    std::string_view name;
+    findGroup(db_.records_[index].groups, 2, name);
+    return name;
+}
+
+// The entry's owner group naming the table it was read in names the table it joins instead.
+void DxfReader::replaceOwner(uint32_t index, uint64_t from, uint64_t to) {
+    Record& r = db_.records_[index];
+    std::string newOwner = handleText(to);
+    std::string groups;
+    BlobCursor c(r.groups);
+    RawGroup g;
+    bool replaced = false;
+    while (c.next(g)) {
+        uint64_t h = 0;
+        bool owner = !replaced && g.code == 330 && parseHandle(g.value, h) && h == from;
+        replaced |= owner;
+        appendGroup(groups, g.code, owner ? std::string_view(newOwner) : g.value);
+    }
+    r.groups = std::move(groups);
 }
 
 bool DxfReader::readBlocks() {
@@ -447,6 +509,7 @@ std::vector<uint32_t> DxfReader::duplicateHandles() {
 }
 
 bool DxfReader::needsHandle(const Record& r) const {
+    if (r.deleted) return false;  // a table given twice: its second head and end
     switch (r.kind) {
     case RecordKind::Entity:
     case RecordKind::SubEntity: return true;

@@ -35,6 +35,9 @@ private:
     bool readSection(const Group& start);
     bool readHeader();
     bool readTables();
+    void addTable(Table table, const std::vector<size_t>& entryLines);
+    std::string_view entryName(uint32_t index) const;
+    void replaceOwner(uint32_t index, uint64_t from, uint64_t to);
     bool readBlocks();
     bool readEntityList(std::vector<uint32_t>& into, uint32_t block, std::string_view endType,
                         Group& end);

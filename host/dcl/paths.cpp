@@ -2,6 +2,7 @@
 
 #include <system_error>
 
+#include "host/file_names.h"
 #include "host/session.h"
 #include "host/text.h"
 
@@ -26,7 +27,7 @@ std::optional<fs::path> caseBlindEntry(const fs::path& dir, const fs::path& name
     fs::path exact = dir / name;
     if (fs::exists(exact, ec)) return exact;
     for (fs::directory_iterator it(dir.empty() ? fs::path(".") : dir, ec), end; !ec && it != end; it.increment(ec)) {
-        if (equalsNoCase(it->path().filename().wstring(), name.wstring())) return dir / it->path().filename();
+        if (equalsNoCase(nameOf(it->path().filename()), nameOf(name))) return dir / it->path().filename();
     }
     return std::nullopt;
 }
@@ -40,7 +41,7 @@ fs::path fromPlatformPath(std::wstring_view name) {
     if (text.size() >= 2 && text[1] == L':' &&
         ((text[0] >= L'A' && text[0] <= L'Z') || (text[0] >= L'a' && text[0] <= L'z')))
         text.erase(0, 2);
-    return fs::path(text);
+    return pathOf(text);
 }
 
 std::optional<fs::path> existingFile(const fs::path& path) {

@@ -95,7 +95,10 @@ void addControl(Interpreter& in) {
         if (a.empty()) fail(L"too few arguments");
         long long n = intArg(i.eval(a[0]));
         ValuePtr r = nil();
-        for (long long k = 0; k < n; ++k) r = progn(i, a, 1);
+        for (long long k = 0; k < n; ++k) {
+            i.step();
+            r = progn(i, a, 1);
+        }
         return r;
     }, true);
     in.define(L"FOREACH", [](Interpreter& i, const Args& a) {

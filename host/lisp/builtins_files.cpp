@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "host/db/wildcard.h"
+#include "host/file_names.h"
 #include "host/lisp/interpreter.h"
 #include "host/lisp/lisp_files.h"
 #include "host/output.h"
@@ -88,7 +89,7 @@ ValuePtr openFile(const Args& a) {
         if (!encoding) fail(L"bad argument value: " + printValue(a[2]));
         file->encoding = *encoding;
     }
-    fs::path path(name);
+    fs::path path = pathOf(name);
     std::error_code ec;
     if (file->reading) {
         std::string bytes;
@@ -197,11 +198,11 @@ void addSearch(Interpreter& in) {
         expectCount(a, 1, 2);
         const std::wstring& name = stringArg(a[0]);
         auto folders = searchFolders(i.currentSource(), root(i));
-        auto found = fs::path(name).has_extension() ? findInFolders(name, folders) : std::nullopt;
+        auto found = pathOf(name).has_extension() ? findInFolders(name, folders) : std::nullopt;
         if (!found) found = findInFolders(name + L".lsp", folders);
-        if (!found && !fs::path(name).has_extension()) found = findInFolders(name, folders);
+        if (!found && !pathOf(name).has_extension()) found = findInFolders(name, folders);
         std::string bytes;
-        if (!found || !readBytes(*found, bytes)) {
+        if (!found || !readBytes(pathOf(*found), bytes)) {
             if (a.size() == 2) return a[1];
             fail(L"LOAD failed: " + printValue(a[0]));
         }
@@ -212,26 +213,26 @@ void addSearch(Interpreter& in) {
 void addFileNames(Interpreter& in) {
     in.define(L"VL-FILENAME-BASE", [](Interpreter&, const Args& a) {
         expectCount(a, 1, 1);
-        return makeStr(fs::path(stringArg(a[0])).stem().wstring());
+        return makeStr(nameOf(pathOf(stringArg(a[0])).stem()));
     });
     in.define(L"VL-FILENAME-EXTENSION", [](Interpreter&, const Args& a) {
         expectCount(a, 1, 1);
-        std::wstring ext = fs::path(stringArg(a[0])).extension().wstring();
+        std::wstring ext = nameOf(pathOf(stringArg(a[0])).extension());
         return ext.empty() ? nil() : makeStr(ext);
     });
     in.define(L"VL-FILENAME-DIRECTORY", [](Interpreter&, const Args& a) {
         expectCount(a, 1, 1);
-        return makeStr(fs::path(stringArg(a[0])).parent_path().wstring());
+        return makeStr(nameOf(pathOf(stringArg(a[0])).parent_path()));
     });
     in.define(L"VL-FILE-DIRECTORY-P", [](Interpreter&, const Args& a) {
         expectCount(a, 1, 1);
         std::error_code ec;
-        return fs::is_directory(fs::path(stringArg(a[0])), ec) ? t() : nil();
+        return fs::is_directory(pathOf(stringArg(a[0])), ec) ? t() : nil();
     });
     // (vl-directory-files [DIR PATTERN MODE]): MODE -1 folders only, 1 files only, else both.
     in.define(L"VL-DIRECTORY-FILES", [](Interpreter&, const Args& a) {
         expectCount(a, 0, 3);
-        fs::path dir = a.empty() || isNil(a[0]) ? fs::current_path() : fs::path(stringArg(a[0]));
+        fs::path dir = a.empty() || isNil(a[0]) ? fs::current_path() : pathOf(stringArg(a[0]));
         std::wstring pattern = a.size() > 1 && !isNil(a[1]) ? stringArg(a[1]) : L"*";
         long long mode = a.size() > 2 && !isNil(a[2]) ? intArg(a[2]) : 0;
         std::error_code ec;
@@ -241,7 +242,7 @@ void addFileNames(Interpreter& in) {
         for (const auto& entry : fs::directory_iterator(dir, ec)) {
             bool folder = entry.is_directory(ec);
             if ((mode == 1 && folder) || (mode == -1 && !folder)) continue;
-            names.push_back(entry.path().filename().wstring());
+            names.push_back(nameOf(entry.path().filename()));
         }
         std::sort(names.begin(), names.end());
         Args out;

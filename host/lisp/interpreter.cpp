@@ -1,9 +1,40 @@
 #include "host/lisp/interpreter.h"
 
+#include <pthread.h>
+
+#include <cstdint>
+
 #include "host/lisp/reader.h"
 #include "host/runtime/host.h"
 
 namespace host::lisp {
+namespace {
+
+// The lowest address of this thread's stack; 0 when the system does not say.
+uintptr_t stackFloor() {
+    pthread_attr_t attr;
+    if (pthread_getattr_np(pthread_self(), &attr) != 0) return 0;
+    void* low = nullptr;
+    size_t size = 0;
+    int got = pthread_attr_getstack(&attr, &low, &size);
+    pthread_attr_destroy(&attr);
+    return got == 0 ? reinterpret_cast<uintptr_t>(low) : 0;
+}
+
+// Built-ins that call back into the evaluator (mapcar, apply, vl-sort ...) put more frames
+// on each level of nesting than a plain call, and a sanitizer's frames are larger still: the
+// depth alone does not keep the stack from running out. Evaluation stops while this much of
+// it is left for the built-in at work and for unwinding.
+constexpr uintptr_t kStackReserve = 1 << 20;
+
+bool stackNearlyFull() {
+    static thread_local const uintptr_t floor = stackFloor();
+    char here = 0;
+    auto at = reinterpret_cast<uintptr_t>(&here);
+    return floor != 0 && at > floor && at - floor < kStackReserve;
+}
+
+}  // namespace
 
 void fail(std::wstring message) { throw LispError{std::move(message)}; }
 
@@ -60,10 +91,16 @@ ValuePtr Interpreter::builtin(const std::wstring& upperName) const {
 }
 
 void Interpreter::offerToErrorHandler(LispError& e) {
-    if (e.handled || catching_ > 0) return;
+    // An error inside the handler is not offered to it again: that would call it for ever.
+    if (e.handled || catching_ > 0 || inErrorHandler_) return;
     e.handled = true;
     ValuePtr handler = symbolValue(L"*ERROR*");
     if (!handler || (handler->kind != Kind::Lambda && handler->kind != Kind::Subr)) return;
+    struct Running {
+        bool& flag;
+        explicit Running(bool& f) : flag(f) { flag = true; }
+        ~Running() { flag = false; }
+    } running(inErrorHandler_);
     try {
         apply(handler, {makeStr(e.message)});
     } catch (const LispError&) {
@@ -126,6 +163,7 @@ ValuePtr Interpreter::evalText(std::wstring_view text, const std::wstring& sourc
 }
 
 ValuePtr Interpreter::eval(const ValuePtr& form) {
+    step();
     if (isNil(form)) return nil();
     switch (form->kind) {
     case Kind::Sym: {
@@ -139,7 +177,7 @@ ValuePtr Interpreter::eval(const ValuePtr& form) {
         struct Depth {
             int& d;
             explicit Depth(int& x) : d(x) {
-                if (++d > 2000) {
+                if (++d > 2000 || stackNearlyFull()) {
                     --d;
                     fail(L"stack overflow");
                 }

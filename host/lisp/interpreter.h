@@ -48,6 +48,17 @@ public:
         ~CatchScope() { --in.catching_; }
     };
 
+    // A budget of evaluation steps (a form evaluated, a turn of a loop) for a run that must
+    // end, as under a fuzzer: past it evaluation stops with "Function cancelled", the error
+    // of a program the user breaks. Without one (0, the default) a program runs as long as
+    // its loops do.
+    void limitSteps(unsigned long long steps) { stepsLeft_ = steps; limited_ = steps > 0; }
+    void step() {
+        if (!limited_) return;
+        if (stepsLeft_ == 0) fail(L"Function cancelled");
+        --stepsLeft_;
+    }
+
     // The file being loaded, for load and findfile to look beside it.
     const std::wstring& currentSource() const { return source_; }
 
@@ -58,6 +69,9 @@ private:
     std::map<std::wstring, ValuePtr> detachedSymbols_;  // when no document is open
     int depth_ = 0;
     int catching_ = 0;
+    bool inErrorHandler_ = false;
+    bool limited_ = false;
+    unsigned long long stepsLeft_ = 0;
     std::wstring source_;
 };
 

@@ -5,6 +5,7 @@
 
 #include "adscodes.h"
 #include "host/db/codepage.h"
+#include "host/file_names.h"
 #include "host/runtime/host.h"
 #include "host/text.h"
 
@@ -87,8 +88,8 @@ std::string encodeFileText(const std::wstring& text, FileEncoding encoding) {
 
 std::vector<std::wstring> searchFolders(const std::wstring& loadingFile, const std::wstring& root) {
     std::vector<std::wstring> folders;
-    if (!loadingFile.empty()) folders.push_back(fs::path(loadingFile).parent_path().wstring());
-    folders.push_back(fs::current_path().wstring());
+    if (!loadingFile.empty()) folders.push_back(nameOf(pathOf(loadingFile).parent_path()));
+    folders.push_back(nameOf(fs::current_path()));
     if (!root.empty()) folders.push_back(root);
     if (const char* path = std::getenv("ACAD")) {
         std::wstring list = fromUtf8(path);
@@ -105,14 +106,14 @@ std::vector<std::wstring> searchFolders(const std::wstring& loadingFile, const s
 
 std::optional<std::wstring> findInFolders(const std::wstring& name, const std::vector<std::wstring>& folders) {
     std::error_code ec;
-    fs::path p(name);
+    fs::path p = pathOf(name);
     if (p.is_absolute()) {
-        if (fs::is_regular_file(p, ec)) return p.wstring();
+        if (fs::is_regular_file(p, ec)) return nameOf(p);
         return std::nullopt;
     }
     for (const auto& folder : folders) {
-        fs::path candidate = fs::path(folder.empty() ? L"." : folder) / p;
-        if (fs::is_regular_file(candidate, ec)) return candidate.lexically_normal().wstring();
+        fs::path candidate = pathOf(folder.empty() ? L"." : folder) / p;
+        if (fs::is_regular_file(candidate, ec)) return nameOf(candidate.lexically_normal());
     }
     return std::nullopt;
 }

@@ -11,6 +11,7 @@
 #include "host/db/api_support.h"
 #include "host/db/database.h"
 #include "host/db/header_sync.h"
+#include "host/file_names.h"
 #include "host/output.h"
 #include "host/runtime/convert.h"
 #include "host/text.h"
@@ -31,9 +32,9 @@ Document::~Document() = default;
 
 void Document::setFileName(std::wstring name) {
     fileName_ = std::move(name);
-    std::filesystem::path p(fileName_);
-    std::wstring base = p.filename().wstring();
-    std::wstring folder = p.has_parent_path() ? p.parent_path().wstring() + L"/" : L"";
+    std::filesystem::path p = pathOf(fileName_);
+    std::wstring base = nameOf(p.filename());
+    std::wstring folder = p.has_parent_path() ? nameOf(p.parent_path()) + L"/" : L"";
     sysvars_.setString(L"DWGNAME", base.empty() ? L"Drawing1.dwg" : base, true);
     sysvars_.setString(L"DWGPREFIX", folder, true);
     sysvars_.setShort(L"DWGTITLED", base.empty() ? 0 : 1, true);
@@ -163,27 +164,27 @@ Module* Host::loadModule(const std::filesystem::path& path, std::wstring& error)
     void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!handle) {
         const char* why = dlerror();
-        error = L"cannot load module " + path.wstring() + L": " + fromUtf8(why ? why : "");
+        error = L"cannot load module " + nameOf(path) + L": " + fromUtf8(why ? why : "");
         return nullptr;
     }
     auto entry = reinterpret_cast<AcRxEntryPointFn>(dlsym(handle, "acrxEntryPoint"));
     auto version = reinterpret_cast<AcRxGetApiVersionFn>(dlsym(handle, "acrxGetApiVersion"));
     if (!entry || !version) {
-        error = L"not an application module (no acrxEntryPoint or acrxGetApiVersion): " + path.wstring();
+        error = L"not an application module (no acrxEntryPoint or acrxGetApiVersion): " + nameOf(path);
         dlclose(handle);
         return nullptr;
     }
     int api = version();
     if ((api >> 16) != ACRX_API_VERSION_MAJOR) {
-        error = L"module " + path.wstring() + L" was built for API version " +
+        error = L"module " + nameOf(path) + L" was built for API version " +
                 std::to_wstring(api >> 16) + L", the host provides " +
                 std::to_wstring(ACRX_API_VERSION_MAJOR);
         dlclose(handle);
         return nullptr;
     }
     auto module = std::make_unique<Module>();
-    module->path = path.wstring();
-    module->name = path.stem().wstring();
+    module->path = nameOf(path);
+    module->name = nameOf(path.stem());
     module->handle = handle;
     module->entry = entry;
     module->apiVersion = api;

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "host/db/database.h"
 #include "host/db/extents.h"
@@ -104,6 +106,61 @@ TEST(HostileDxf, ASectionGivenTwiceIsWrittenOnceAndSavingTwiceChangesNothing) {
     auto again = parseOk(saved);
     ASSERT_NE(again, nullptr);
     EXPECT_EQ(again->entities().size(), 2u);
+    EXPECT_EQ(again->dxfText(), saved);
+}
+
+std::string layerTable(const std::string& tableHandle, const std::vector<std::pair<std::string, std::string>>& layers) {
+    std::string s = group(0, "TABLE") + group(2, "LAYER") + group(5, tableHandle) + group(330, "0") +
+                    group(100, "AcDbSymbolTable") + group(70, std::to_string(layers.size()));
+    for (const auto& [handle, name] : layers)
+        s += group(0, "LAYER") + group(5, handle) + group(330, tableHandle) + group(100, "AcDbSymbolTableRecord") +
+             group(100, "AcDbLayerTableRecord") + group(2, name) + group(70, "0") + group(62, "7") + group(6, "CONTINUOUS");
+    return s + group(0, "ENDTAB");
+}
+
+TEST(HostileDxf, ASecondTablesSectionJoinsTheFirst) {
+    // The first TABLES section holds layers 0 and PIPES; the second holds PIPES again (its own
+    // handle, owned by its own LAYER table) and DUCTS, and an APPID table the first lacks.
+    auto section = [](const std::string& content) {
+        return group(0, "SECTION") + group(2, "TABLES") + content + group(0, "ENDSEC");
+    };
+    std::string appids = group(0, "TABLE") + group(2, "APPID") + group(5, "30") + group(330, "0") +
+                         group(100, "AcDbSymbolTable") + group(70, "1") + group(0, "APPID") + group(5, "31") +
+                         group(330, "30") + group(100, "AcDbSymbolTableRecord") + group(100, "AcDbRegAppTableRecord") +
+                         group(2, "ACAD") + group(70, "0") + group(0, "ENDTAB");
+    std::string text = group(0, "SECTION") + group(2, "HEADER") + group(9, "$ACADVER") + group(1, "AC1015") +
+                       group(9, "$HANDSEED") + group(5, "100") + group(0, "ENDSEC") +
+                       section(layerTable("2", {{"10", "0"}, {"11", "PIPES"}})) +
+                       section(layerTable("20", {{"21", "pipes"}, {"22", "DUCTS"}}) + appids) +
+                       group(0, "SECTION") + group(2, "ENTITIES") + group(0, "ENDSEC") + group(0, "EOF");
+    auto db = parseOk(text);
+    ASSERT_NE(db, nullptr);
+    ASSERT_EQ(db->tables().size(), 2u);
+    EXPECT_EQ(db->tables()[0].name, "LAYER");
+    EXPECT_EQ(db->tables()[1].name, "APPID");
+    EXPECT_NE(db->findEntry("LAYER", L"DUCTS"), host::db::kNone);
+    EXPECT_NE(db->findEntry("APPID", L"ACAD"), host::db::kNone);
+    ASSERT_EQ(db->warnings().size(), 1u);
+    EXPECT_EQ(host::toUtf8(db->warnings()[0]), "the LAYER table names PIPES twice; the entry at line 87 was left out");
+
+    // Written: one TABLES section, one LAYER table of three layers, DUCTS owned by the table
+    // that holds it; the left-out PIPES (handle 21) and the second table head (20) are gone.
+    std::string saved = db->dxfText();
+    auto count = [&saved](const std::string& what) {
+        size_t n = 0;
+        for (size_t at = saved.find(what); at != std::string::npos; at = saved.find(what, at + 1)) ++n;
+        return n;
+    };
+    EXPECT_EQ(count("\nTABLES\n"), 1u);
+    EXPECT_EQ(count("\nTABLE\n2\nLAYER\n"), 1u) << saved;
+    EXPECT_EQ(count("\n0\nLAYER\n"), 3u) << saved;
+    EXPECT_NE(saved.find("\n5\n22\n330\n2\n"), std::string::npos) << saved;
+    EXPECT_EQ(saved.find("\n5\n21\n"), std::string::npos);
+    EXPECT_EQ(saved.find("\n5\n20\n"), std::string::npos);
+    EXPECT_EQ(saved.find("\n330\n20\n"), std::string::npos) << saved;
+    auto again = parseOk(saved);
+    ASSERT_NE(again, nullptr);
+    EXPECT_TRUE(again->warnings().empty());
     EXPECT_EQ(again->dxfText(), saved);
 }
 

@@ -80,5 +80,20 @@ TEST_F(HostileDcl, AControlCharacterIsNamedByItsCodeAndTheMessageEndsItsLine) {
     EXPECT_EQ(refused("bell : dialog { \x07 ok_only; }\n"), error(1, L"unexpected control character (code 7)"));
 }
 
+TEST_F(HostileDcl, AFileNamedPastAsciiIsNamedInItsErrorsAndItsIncludesAreFound) {
+    // The folder's name is ASCII; the files' names are not.
+    std::wstring dir = folder_.dir().wstring();
+    folder_.write("部件.dcl", "part : button { label = \"a\"; }\n");
+    folder_.write("对话框.dcl", "@include \"部件.dcl\"\nd : dialog { : part { key = \"k\"; } ok_only; }\n");
+    int id = -1;
+    EXPECT_EQ(ads_load_dialog((dir + L"/对话框.dcl").c_str(), &id), RTNORM);
+    ads_unload_dialog(id);
+
+    folder_.write("坏.dcl", "bell : dialog { \x07 ok_only; }\n");
+    host::OutputCapture out;
+    EXPECT_EQ(ads_load_dialog((dir + L"/坏.dcl").c_str(), &id), RTERROR);
+    EXPECT_EQ(out.commandLine(), L"DCL error in " + dir + L"/坏.dcl line 1: unexpected control character (code 7)\n");
+}
+
 }  // namespace
 }  // namespace dcltest

@@ -3,15 +3,16 @@
 // exhausting the stack, and numbers that do not fit an integer are not cast.
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include <algorithm>
+#include <filesystem>
+#include <string>
 
 #include "acutads.h"
 #include "adscodes.h"
 #include "host/text.h"
 #include "host/runtime/convert.h"
 #include "tests/support/host_session.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 
@@ -33,6 +34,18 @@ TEST_F(HostileLisp, DeepNestingAndQuoteChainsAreRefusedAsAStackOverflow) {
     // Nesting a program uses is read and evaluated.
     EXPECT_EQ(eval(repeat(L"(list ", 100) + L"1" + repeat(L")", 100)), repeat(L"(", 100) + L"1" + repeat(L")", 100));
     EXPECT_EQ(eval(L"'''x"), L"(QUOTE (QUOTE X))");
+}
+
+TEST_F(HostileLisp, RecursionThroughBuiltInsThatCallBackIsAStackOverflow) {
+    // Each level passes through mapcar, apply, vl-sort or vl-some as well as the evaluator.
+    EXPECT_EQ(eval(L"(defun f (n) (mapcar 'f (list n))) (f 1)"), L"; error: stack overflow");
+    EXPECT_EQ(eval(L"(defun g (n) (apply 'g (list n))) (g 1)"), L"; error: stack overflow");
+    EXPECT_EQ(eval(L"(defun h (n) (vl-sort (list 1 2) '(lambda (a b) (h 1)))) (h 1)"), L"; error: stack overflow");
+    EXPECT_EQ(eval(L"(defun q (n) (vl-some 'q (list n))) (q 1)"), L"; error: stack overflow");
+    EXPECT_EQ(eval(L"(defun m (n) (vl-catch-all-apply 'm (list n))) (vl-catch-all-error-message (m 1))"),
+              L"\"stack overflow\"");
+    // Afterwards evaluation goes on as before.
+    EXPECT_EQ(eval(L"(mapcar '1+ (list 1 2))"), L"(2 3)");
 }
 
 TEST_F(HostileLisp, LongListsAreFreedAndComparedWithoutRecursion) {
@@ -120,6 +133,57 @@ TEST_F(HostileLisp, IntegerGroupsRefuseARealThatDoesNotFit) {
     EXPECT_EQ(eval(L"(ssget \"X\" (list (cons 62 1e30)))").rfind(L"; error:", 0), 0u);
     EXPECT_EQ(eval(L"(ssget \"X\" (list (cons 1071 1e30)))").rfind(L"; error:", 0), 0u);
     EXPECT_EQ(eval(L"(sslength (ssget \"X\" (list (cons 62 1.0))))"), L"1");
+}
+
+TEST_F(HostileLisp, AStepBudgetEndsLoopsWithoutEndAsACancelledFunction) {
+    // Without a budget a long loop runs to its end.
+    EXPECT_EQ(eval(L"(setq i 0) (while (< i 300000) (setq i (1+ i))) i"), L"300000");
+    interpreter_->limitSteps(10000);
+    EXPECT_EQ(eval(L"(while t)"), L"; error: Function cancelled");
+    interpreter_->limitSteps(10000);
+    EXPECT_EQ(eval(L"(repeat 2000000000)"), L"; error: Function cancelled");
+    interpreter_->limitSteps(100000);  // deep recursion meets the stack's limit first
+    EXPECT_EQ(eval(L"(defun f (n) (f n)) (f 1)"), L"; error: stack overflow");
+    // Each turn of (repeat 100 (setq n (1+ n))) is 4 steps: the turn, the setq form, the
+    // (1+ n) form and the symbol n; with the 5 steps around it 405 in all.
+    interpreter_->limitSteps(405);
+    EXPECT_EQ(eval(L"(setq n 0) (repeat 100 (setq n (1+ n))) n"), L"100");
+    interpreter_->limitSteps(404);
+    EXPECT_EQ(eval(L"(setq n 0) (repeat 100 (setq n (1+ n))) n"), L"; error: Function cancelled");
+    EXPECT_EQ(eval(L"n"), L"; error: Function cancelled");  // spent stays spent
+}
+
+TEST_F(HostileLisp, AnErrorInsideTheErrorHandlerIsNotHandedToItAgain) {
+    // The handler fails itself; it runs once and the first error ends the evaluation.
+    std::wstring failing = L"(setq calls 0) "
+                           L"(defun *error* (msg) (setq calls (1+ calls) seen msg) (mapcar 'setvar ' '(\"OSMODE\"))) "
+                           L"(defun f () (/ 10 (length nil))) ";
+    EXPECT_EQ(eval(failing + L"(f)"), L"; error: divide by zero");
+    EXPECT_EQ(eval(L"calls"), L"1");
+    EXPECT_EQ(eval(L"seen"), L"\"divide by zero\"");
+    // A later error is offered to the handler again.
+    EXPECT_EQ(eval(L"(f)"), L"; error: divide by zero");
+    EXPECT_EQ(eval(L"calls"), L"2");
+}
+
+TEST_F(HostileLisp, FileNamesPastAsciiAreOpenedFoundAndTakenApart) {
+    testing_support::TemporaryFolder folder;
+    folder.write("载入.lsp", "(setq loaded \"yes\")");
+    std::wstring dir = folder.dir().wstring();  // ASCII
+    std::wstring file = dir + L"/报告.txt";
+    auto quoted = [](const std::wstring& s) { return L"\"" + s + L"\""; };
+    EXPECT_EQ(eval(L"(setq f (open " + quoted(file) + L" \"w\")) (write-line \"第一行\" f) (close f)"), L"nil");
+    EXPECT_TRUE(std::filesystem::is_regular_file(folder.dir() / "报告.txt"));
+    EXPECT_EQ(eval(L"(setq f (open " + quoted(file) + L" \"r\")) (setq l (read-line f)) (close f) l"),
+              L"\"第一行\"");
+    EXPECT_EQ(eval(L"(vl-filename-base " + quoted(file) + L")"), L"\"报告\"");
+    EXPECT_EQ(eval(L"(vl-filename-extension " + quoted(file) + L")"), L"\".txt\"");
+    EXPECT_EQ(eval(L"(vl-filename-directory " + quoted(file) + L")"), quoted(dir));
+    EXPECT_EQ(eval(L"(vl-directory-files " + quoted(dir) + L" \"*.txt\" 1)"), L"(\"报告.txt\")");
+    EXPECT_EQ(eval(L"(findfile " + quoted(file) + L")"), quoted(file));
+    EXPECT_EQ(eval(L"(load " + quoted(dir + L"/载入.lsp") + L") loaded"), L"\"yes\"");
+    // A name that is no file at all is an answer, not a fault.
+    EXPECT_EQ(eval(L"(open \"" + dir + L"/\uFFFD/无.txt\" \"r\")"), L"nil");
 }
 
 }  // namespace
