@@ -29,9 +29,9 @@ constexpr ProcessTileSpec kSpecs[kProcessTileCount] = {
 double valueOf(const ProcessReadings& r, ProcessTile t) { return r[t].value_or(0.0); }
 
 std::optional<ProcessInputFault> faultOf(const ProcessReadings& r, ProcessTile t) {
-    const ProcessTileSpec& spec = processTileSpec(t);
-    if (!r[t]) return ProcessInputFault{spec.key, std::wstring(L"输入") + spec.name + L"."};
-    if (*r[t] < spec.low || *r[t] > spec.high) return ProcessInputFault{spec.key, spec.rangeMessage};
+    const ProcessTileSpec& input = processTileSpec(t);
+    if (!r[t]) return ProcessInputFault{input.key, std::wstring(L"输入") + input.name + L"."};
+    if (*r[t] < input.low || *r[t] > input.high) return ProcessInputFault{input.key, input.rangeMessage};
     return std::nullopt;
 }
 
