@@ -1,10 +1,10 @@
 #include "psychro/chart_marks.h"
 
-#include <cstdlib>
 #include <string>
 
 #include "acedads.h"
 #include "frame/host_commands.h"
+#include "frame/system_variables.h"
 
 namespace vrn2 {
 namespace {
@@ -13,11 +13,7 @@ namespace {
 class MarkColour {
 public:
     explicit MarkColour(HostCommands& commands) : commands_(commands) {
-        resbuf rb;
-        if (acedGetVar(L"CECOLOR", &rb) == RTNORM && rb.restype == RTSTR && rb.resval.rstring) {
-            saved_ = rb.resval.rstring;
-            std::free(rb.resval.rstring);
-        }
+        saved_ = textVariable(L"CECOLOR");
         commands_.run(RTSTR, L"COLOR", RTSTR, kChartMarkColour);
     }
     ~MarkColour() {

@@ -2,10 +2,10 @@
 
 #include <array>
 #include <cmath>
-#include <cstdlib>
 
 #include "acdbads.h"
 #include "frame/host_commands.h"
+#include "frame/system_variables.h"
 #include "frame/list_builder.h"
 #include "frame/rblist.h"
 #include "psychro/chart_entities.h"
@@ -26,11 +26,7 @@ constexpr int kProcessColour = 1;  // red, as the marks (kChartMarkColour)
 class ProcessLayer {
 public:
     explicit ProcessLayer(HostCommands& commands) : commands_(commands) {
-        resbuf rb;
-        if (acedGetVar(L"CLAYER", &rb) == RTNORM && rb.restype == RTSTR && rb.resval.rstring) {
-            saved_ = rb.resval.rstring;
-            std::free(rb.resval.rstring);
-        }
+        saved_ = textVariable(L"CLAYER");
         commands_.run(RTSTR, L"LAYER", RTSTR, L"M", RTSTR, kLayerProcess, RTSTR, L"C", RTSTR, kChartMarkColour,
                       RTSTR, kLayerProcess, RTSTR, L"");
     }
