@@ -9,8 +9,8 @@
 #include "adscodes.h"
 #include "host/commands/arc_geometry.h"
 #include "host/commands/block_definition.h"
+#include "host/commands/block_placement.h"
 #include "host/commands/entity_path.h"
-#include "host/commands/entity_placement.h"
 
 namespace host::cmd {
 namespace {
@@ -45,6 +45,9 @@ bool placementOf(const resbuf* insert, const BlockDefinition& block, Placement& 
     p.rotation = realOr(insert, 50, 0.0);
     return true;
 }
+
+// The entities that belong to the complex entity before them.
+bool isPartType(const std::wstring& type) { return type == L"VERTEX" || type == L"ATTRIB" || type == L"SEQEND"; }
 
 int countOf(const resbuf* list, int code) {
     const resbuf* g = findGroup(list, code);
@@ -116,7 +119,8 @@ bool explodeReference(const Name& insert) {
         say(L"\nCannot explode an array of block references.");
         return false;
     }
-    if (!uniformInPlan(p)) {
+    const Transform placing = placingTransform(p);
+    if (!placing.similarInPlan()) {
         say(L"\nCannot explode a block reference with unequal X and Y scales.");
         return false;
     }
@@ -124,17 +128,27 @@ bool explodeReference(const Name& insert) {
     bool paper = findGroup(list.get(), 67) && findGroup(list.get(), 67)->resval.rint == 1;
     for (const auto& e : block.entities) {
         RbPtr copy = copyForMaking(e.get());
-        if (!placeEntity(copy.get(), p)) {
-            say(L"\nCannot explode block " + block.name + L": it holds a " + typeOf(e.get()) +
-                L" this cannot place.");
-            return false;
-        }
         if (paper && !findGroup(copy.get(), 67))  // the parts stay in the reference's space
             if (resbuf* space = acutBuildList(67, 1, 0)) {
                 space->rbnext = copy->rbnext;
                 copy->rbnext = space;
             }
         made.push_back(std::move(copy));
+    }
+    // A complex entity is placed with its parts: a polyline's vertices, a reference's
+    // attributes, up to their SEQEND. The block's geometry, texts included, is mirrored
+    // with a mirrored reference.
+    for (size_t first = 0; first < made.size();) {
+        size_t end = first + 1;
+        while (end < made.size() && isPartType(typeOf(made[end].get()))) ++end;
+        std::vector<resbuf*> lists;
+        for (size_t i = first; i < end; ++i) lists.push_back(made[i].get());
+        if (!transformEntity(lists, placing, true)) {
+            say(L"\nCannot explode block " + block.name + L": it holds a " + typeOf(lists[0]) +
+                L" this cannot place.");
+            return false;
+        }
+        first = end;
     }
     for (const auto& m : made)
         if (acdbEntMake(m.get()) != RTNORM) return false;

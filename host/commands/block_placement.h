@@ -1,7 +1,10 @@
 // Where a block reference puts the entities of its block: from the block's base point,
 // scaled along X, Y and Z, turned about Z and moved to the insertion point. INSERT places
-// its attributes with it and EXPLODE its block's entities.
+// its attributes with it and EXPLODE its block's entities, both through the one map of
+// entity lists that the editing commands use.
 #pragma once
+
+#include "host/commands/entity_transform.h"
 
 namespace host::cmd {
 
@@ -12,9 +15,8 @@ struct Placement {
     double rotation = 0.0;       // radians
 };
 
-// A point of the block in world coordinates.
-void place(const Placement& p, const double in[3], double out[3]);
-// Whether the plan scales are the same, so that circles stay circles.
-bool uniformInPlan(const Placement& p);
+inline Transform placingTransform(const Placement& p) {
+    return Transform::placing(p.base, p.at, p.scale, p.rotation);
+}
 
 }  // namespace host::cmd

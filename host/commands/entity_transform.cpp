@@ -18,6 +18,8 @@ void cross(const double a[3], const double b[3], double out[3]) {
     out[2] = a[0] * b[1] - a[1] * b[0];
 }
 
+double dot(const double a[3], const double b[3]) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
+
 void normalise(double v[3]) {
     double n = std::sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
     if (n > 0)
@@ -94,14 +96,30 @@ double normalAngle(double a) {
     return a;
 }
 
-// The map seen from one entity: its extrusion before and after.
+// The map seen from one entity: its extrusion before and after, and how it stretches the
+// entity's plane (its own X and Y axes) and what stands across it (thickness).
 class Mapper {
 public:
-    Mapper(const Transform& t, const double normal[3]) : t_(t), before_(normal), after_(mapped(t, normal)) {}
+    Mapper(const Transform& t, const double normal[3]) : t_(t), before_(normal), after_(mappedNormal(t, before_)) {
+        t.vector(before_.x, x_);
+        t.vector(before_.y, y_);
+        double z[3], area[3];
+        t.vector(before_.z, z);
+        cross(x_, y_, area);
+        plane_ = std::sqrt(std::sqrt(dot(area, area)));
+        across_ = std::fabs(dot(z, after_.z));
+    }
 
     const double* normal() const { return after_.z; }
     bool flips() const { return t_.reflects(); }
-    double factor() const { return t_.factor(); }
+    // How lengths in the entity's plane change, when they change alike in every direction.
+    double factor() const { return plane_; }
+    double thickness() const { return across_; }
+    // The map keeps the shapes in the entity's plane: circles stay circles.
+    bool keepsShapes() const {
+        const double xx = dot(x_, x_), yy = dot(y_, y_), tolerance = 1e-9 * std::fmax(xx, yy);
+        return xx > 0 && std::fabs(xx - yy) <= tolerance && std::fabs(dot(x_, y_)) <= tolerance;
+    }
 
     void world(double p[3]) const {
         double q[3];
@@ -119,23 +137,37 @@ public:
         world(w);
         after_.fromWorld(w, p);
     }
-    // A direction in the entity's own XY plane, as an angle, through the map.
-    double ownAngle(double a) const {
+    // The unit vector at angle A in the entity's own XY plane, through the map, in the
+    // mapped entity's own coordinates (its Z is 0).
+    void ownVector(double a, double out[3]) const {
         double v[3] = {std::cos(a), std::sin(a), 0}, w[3];
         before_.toWorld(v, w);
         worldVector(w);
-        after_.fromWorld(w, v);
+        after_.fromWorld(w, out);
+    }
+    // A direction in the entity's own XY plane, as an angle, through the map.
+    double ownAngle(double a) const {
+        double v[3];
+        ownVector(a, v);
         return normalAngle(angleOf(v));
     }
 
 private:
-    static Ocs mapped(const Transform& t, const double normal[3]) {
-        double n[3];
-        t.vector(normal, n);
+    // The mapped plane's normal, on the side the old one maps to: a reflection in a vertical
+    // plane keeps an extrusion of +Z and turns the entity over within its plane instead.
+    static Ocs mappedNormal(const Transform& t, const Ocs& before) {
+        double x[3], y[3], n[3];
+        t.vector(before.x, x);
+        t.vector(before.y, y);
+        cross(x, y, n);
+        if (t.reflects())
+            for (double& c : n) c = -c;
         return Ocs(n);
     }
     const Transform& t_;
     Ocs before_, after_;
+    double x_[3], y_[3];  // the entity's own axes, mapped
+    double plane_ = 1.0, across_ = 1.0;
 };
 
 void mapWorld(const Mapper& m, resbuf* list, int code) {
@@ -156,6 +188,10 @@ void mapVector(const Mapper& m, resbuf* list, int code, bool unit) {
 void scaleLengths(const Mapper& m, resbuf* list, std::initializer_list<int> codes) {
     for (int code : codes)
         for (int i = 0; resbuf* g = group(list, code, i); ++i) g->resval.rreal *= m.factor();
+}
+
+void scaleThickness(const Mapper& m, resbuf* list) {
+    if (resbuf* g = group(list, 39)) g->resval.rreal *= m.thickness();
 }
 
 void mapAngle(const Mapper& m, resbuf* list, int code) {
@@ -192,7 +228,8 @@ void normalOf(resbuf* list, double n[3]) {
 
 void arc(const Mapper& m, resbuf* list) {
     mapOwn(m, list, 10);
-    scaleLengths(m, list, {40, 39});
+    scaleLengths(m, list, {40});
+    scaleThickness(m, list);
     resbuf* start = group(list, 50);
     resbuf* end = group(list, 51);
     if (!start || !end) return;
@@ -226,7 +263,8 @@ void lightPolyline(const Mapper& m, resbuf* list) {
     double z = mappedElevation(m, elevation);
     if (resbuf* g = group(list, 38)) g->resval.rreal = z;
     else if (std::fabs(z) > 1e-12) addGroup(list, 38)->resval.rreal = z;
-    scaleLengths(m, list, {43, 40, 41, 39});
+    scaleLengths(m, list, {43, 40, 41});
+    scaleThickness(m, list);
     negateBulges(m, list);
 }
 
@@ -262,7 +300,8 @@ void polyline(const Mapper& m, std::vector<resbuf*>& lists) {
         origin->resval.rpoint[0] = origin->resval.rpoint[1] = 0;
         origin->resval.rpoint[2] = mappedElevation(m, elevation);
     }
-    scaleLengths(m, head, {40, 41, 39});
+    scaleLengths(m, head, {40, 41});
+    scaleThickness(m, head);
 }
 
 double angleBetween(double a, double b) {
@@ -278,6 +317,22 @@ double readable(double mappedAngle, double oldAngle) {
     return d0 < d1 ? mappedAngle : reversed;
 }
 
+// A text's height is measured across its baseline and its glyphs' width along it: a map
+// that stretches one more than the other changes the width factor.
+void textSize(const Mapper& m, resbuf* list, double angle) {
+    double along[3], across[3];
+    m.ownVector(angle, along);
+    m.ownVector(angle + kPi / 2, across);
+    const double length = std::hypot(along[0], along[1]);
+    const double area = std::fabs(along[0] * across[1] - along[1] * across[0]);
+    if (!(length > 0 && area > 0)) return;
+    const double height = area / length, width = length / height;
+    if (resbuf* g = group(list, 40)) g->resval.rreal *= height;
+    if (resbuf* g = group(list, 41)) g->resval.rreal *= width;
+    else if (std::fabs(width - 1.0) > 1e-12) addGroup(list, 41)->resval.rreal = width;
+    scaleThickness(m, list);
+}
+
 // TEXT, ATTRIB and ATTDEF. The alignment point is mapped when the text is justified (group
 // 72 and the vertical justification, 73 for TEXT and 74 for the others).
 void text(const Mapper& m, resbuf* list, bool mirrorText) {
@@ -285,9 +340,9 @@ void text(const Mapper& m, resbuf* list, bool mirrorText) {
     bool justified = intOf(list, 72) != 0 || intOf(list, isText ? 73 : 74) != 0;
     mapOwn(m, list, 10);
     if (justified) mapOwn(m, list, 11);
-    scaleLengths(m, list, {40, 39});
     resbuf* rotation = group(list, 50);
     double old = rotation ? rotation->resval.rreal : 0.0;
+    textSize(m, list, old);
     double mapped = m.ownAngle(old);
     double now = mapped;
     if (m.flips() && mirrorText) {
@@ -339,7 +394,8 @@ void mtext(const Mapper& m, resbuf* list) {
 // A reflected block reference has its X scale negated and is turned half round more.
 void insert(const Mapper& m, resbuf* list) {
     mapOwn(m, list, 10);
-    scaleLengths(m, list, {41, 42, 43, 44, 45});
+    scaleLengths(m, list, {41, 42, 44, 45});
+    if (resbuf* z = group(list, 43)) z->resval.rreal *= m.thickness();
     double rotation = realOf(list, 50);
     double now = m.ownAngle(rotation);
     if (m.flips()) {
@@ -356,10 +412,16 @@ const wchar_t* const kKnown[] = {L"LINE",  L"POINT",  L"CIRCLE", L"ARC",   L"ELL
                                  L"POLYLINE", L"TEXT", L"ATTRIB", L"ATTDEF", L"MTEXT", L"INSERT",
                                  L"SOLID", L"TRACE", L"3DFACE", L"XLINE", L"RAY",   L"SPLINE"};
 
+// What a map that stretches unequally can move: points in the world, and texts.
+bool takesAnyStretch(const std::wstring& type) {
+    return type == L"LINE" || type == L"POINT" || type == L"3DFACE" || type == L"XLINE" || type == L"RAY" ||
+           type == L"TEXT" || type == L"ATTRIB" || type == L"ATTDEF" || type == L"SEQEND";
+}
+
 void transformOne(const Mapper& m, resbuf* list, const std::wstring& type, bool mirrorText) {
-    if (type == L"LINE") mapWorld(m, list, 10), mapWorld(m, list, 11), scaleLengths(m, list, {39});
-    else if (type == L"POINT") mapWorld(m, list, 10), mapAngle(m, list, 50), scaleLengths(m, list, {39});
-    else if (type == L"CIRCLE") mapOwn(m, list, 10), scaleLengths(m, list, {40, 39});
+    if (type == L"LINE") mapWorld(m, list, 10), mapWorld(m, list, 11), scaleThickness(m, list);
+    else if (type == L"POINT") mapWorld(m, list, 10), mapAngle(m, list, 50), scaleThickness(m, list);
+    else if (type == L"CIRCLE") mapOwn(m, list, 10), scaleLengths(m, list, {40}), scaleThickness(m, list);
     else if (type == L"ARC") arc(m, list);
     else if (type == L"ELLIPSE") ellipse(m, list);
     else if (type == L"LWPOLYLINE") lightPolyline(m, list);
@@ -368,7 +430,7 @@ void transformOne(const Mapper& m, resbuf* list, const std::wstring& type, bool 
     else if (type == L"INSERT") insert(m, list);
     else if (type == L"SOLID" || type == L"TRACE") {
         for (int code : {10, 11, 12, 13}) mapOwn(m, list, code);
-        scaleLengths(m, list, {39});
+        scaleThickness(m, list);
     } else if (type == L"3DFACE") {
         for (int code : {10, 11, 12, 13}) mapWorld(m, list, code);
     } else if (type == L"XLINE" || type == L"RAY") {
@@ -408,6 +470,18 @@ Transform Transform::scaling(const double base[3], double factor) {
     return t;
 }
 
+Transform Transform::placing(const double base[3], const double at[3], const double scale[3], double rotation) {
+    Transform t;
+    double c = std::cos(rotation), s = std::sin(rotation);
+    t.m[0][0] = c * scale[0], t.m[0][1] = -s * scale[1];
+    t.m[1][0] = s * scale[0], t.m[1][1] = c * scale[1];
+    t.m[2][2] = scale[2];
+    double moved[3];
+    t.vector(base, moved);
+    for (int i = 0; i < 3; ++i) t.t[i] = at[i] - moved[i];
+    return t;
+}
+
 Transform Transform::mirror(const double a[3], const double b[3]) {
     // Reflection in the line at angle phi through a: the matrix of angle 2 phi.
     double phi = std::atan2(b[1] - a[1], b[0] - a[0]);
@@ -432,9 +506,13 @@ void Transform::vector(const double v[3], double out[3]) const {
     for (int i = 0; i < 3; ++i) out[i] = q[i];
 }
 
-double Transform::factor() const { return std::cbrt(std::fabs(determinant(m))); }
-
 bool Transform::reflects() const { return determinant(m) < 0; }
+
+bool Transform::similarInPlan() const {
+    const double xx = m[0][0] * m[0][0] + m[1][0] * m[1][0], yy = m[0][1] * m[0][1] + m[1][1] * m[1][1];
+    const double xy = m[0][0] * m[0][1] + m[1][0] * m[1][1], tolerance = 1e-12 * std::fmax(xx, yy);
+    return xx > 0 && std::fabs(xx - yy) <= tolerance && std::fabs(xy) <= tolerance;
+}
 
 void worldToOwn(const double world[3], const double extrusion[3], double own[3]) {
     Ocs(extrusion).fromWorld(world, own);
@@ -453,6 +531,9 @@ bool transformEntity(std::vector<resbuf*>& lists, const Transform& t, bool mirro
     double n[3];
     normalOf(lists[0], n);
     Mapper m(t, n);
+    if (!m.keepsShapes())
+        for (resbuf* list : lists)
+            if (!takesAnyStretch(typeOf(list))) return false;
     if (type == L"POLYLINE") {
         polyline(m, lists);
         setNormal(m, lists[0]);

@@ -5,14 +5,15 @@
 // the block places its definitions, and a SEQEND ends them. A name starting with "*"
 // inserts the block's entities themselves (the reference is exploded).
 #include <cstdio>
+#include <vector>
 
 #include "acdbads.h"
 #include "acutads.h"
 #include "adscodes.h"
 #include "host/commands/block_definition.h"
 #include "host/commands/block_explode.h"
+#include "host/commands/block_placement.h"
 #include "host/commands/drawing_prompts.h"
-#include "host/commands/entity_placement.h"
 #include "host/runtime/host.h"
 
 namespace host::cmd {
@@ -160,7 +161,8 @@ RbPtr attributeOf(const resbuf* definition, const std::wstring& value, const Pla
         while (*tail) tail = &(*tail)->rbnext;
     }
     RbPtr list(head);
-    placeEntity(list.get(), p);
+    std::vector<resbuf*> lists{list.get()};
+    transformEntity(lists, placingTransform(p), true);
     return list;
 }
 

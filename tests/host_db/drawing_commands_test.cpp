@@ -338,6 +338,51 @@ TEST_F(DrawingCommands, ExplodeInsertBringsBackTheDefinitionsPlaced) {
     EXPECT_EQ(all(L"INSERT").size(), 1u);
 }
 
+TEST_F(DrawingCommands, MirroredReferenceExplodesIntoTheMirrorImage) {
+    makeTagBlock();
+    const double origin[3] = {0, 0, 0};
+    // X -1 alone makes Z -1 too: the block turned over about Y, which its attribute shows by
+    // an extrusion of -Z. The attribute at (12,1), 2 right of and 1 above the base, shows 2
+    // left in the world: at own X 2, since own X runs along world -X.
+    ASSERT_EQ(acedCommand(RTSTR, L"INSERT", RTSTR, L"TAG", RTPOINT, origin, RTREAL, -1.0, RTREAL, 1.0, RTREAL, 0.0,
+                          RTSTR, L"A-7", 0),
+              RTNORM);
+    ads_name ins, attribute;
+    last(ins);
+    ASSERT_EQ(acdbEntNext(ins, attribute), RTNORM);
+    RbPtr turned = get(attribute);
+    ASSERT_NE(find(turned.get(), 210), nullptr);
+    EXPECT_NEAR(point(turned.get(), 210)[2], -1.0, 1e-12);
+    EXPECT_NEAR(point(turned.get(), 10)[0], 2.0, 1e-12);
+    EXPECT_NEAR(point(turned.get(), 10)[1], 1.0, 1e-12);
+    ASSERT_EQ(acdbEntDel(ins), RTNORM);
+
+    // Mirrored in plan (Z 1): the attribute shows 2 left, written backwards.
+    ASSERT_EQ(acedCommand(RTSTR, L"INSERT", RTSTR, L"TAG", RTPOINT, origin, RTSTR, L"XYZ", RTREAL, -1.0, RTREAL, 1.0,
+                          RTREAL, 1.0, RTREAL, 0.0, RTSTR, L"A-7", 0),
+              RTNORM);
+    last(ins);
+    ASSERT_EQ(acdbEntNext(ins, attribute), RTNORM);
+    RbPtr att = get(attribute);
+    EXPECT_EQ(find(att.get(), 210), nullptr);
+    EXPECT_NEAR(point(att.get(), 10)[0], -2.0, 1e-12);
+    EXPECT_NEAR(point(att.get(), 10)[1], 1.0, 1e-12);
+    ASSERT_NE(find(att.get(), 71), nullptr);
+    EXPECT_EQ(find(att.get(), 71)->resval.rint & 2, 2);
+    ASSERT_EQ(acedCommand(RTSTR, L"EXPLODE", RTENAME, ins, RTSTR, L"", 0), RTNORM);
+    EXPECT_EQ(all(L"INSERT").size(), 0u);
+    auto lines = all(L"LINE");
+    auto defs = all(L"ATTDEF");
+    ASSERT_EQ(lines.size(), 1u);
+    ASSERT_EQ(defs.size(), 1u);
+    EXPECT_NEAR(point(lines[0].get(), 10)[0], 0.0, 1e-12);
+    EXPECT_NEAR(point(lines[0].get(), 11)[0], -4.0, 1e-12);
+    EXPECT_NEAR(point(defs[0].get(), 10)[0], -2.0, 1e-12);
+    EXPECT_NEAR(real(defs[0].get(), 40), 2.5, 1e-12);
+    ASSERT_NE(find(defs[0].get(), 71), nullptr);
+    EXPECT_EQ(find(defs[0].get(), 71)->resval.rint & 2, 2);
+}
+
 TEST_F(DrawingCommands, PurgeKeepsWhatIsReferencedAlsoInsideBlocks) {
     const double o[3] = {0, 0, 0}, x[3] = {1, 0, 0};
     for (const wchar_t* name : {L"USED", L"IN-BLOCK", L"LONE-ONLY", L"SPARE1", L"SPARE2", L"CURRENT"})

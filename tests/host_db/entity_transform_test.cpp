@@ -170,6 +170,58 @@ TEST_F(EntityTransform, MirroredBlockReferenceNegatesItsXScaleAndKeepsItsAttribu
     expectAngle(find(attrib.get(), 50), 0);
 }
 
+// A block reference's map: from the base point (0,0), X three times, a quarter turn, to
+// (10,20). Block X goes to world Y three long, block Y to world -X one long.
+TEST_F(EntityTransform, BlockPlacementStretchesTextsAcrossOrAlongTheirBaseline) {
+    const double base[3] = {0, 0, 0}, at[3] = {10, 20, 0}, scale[3] = {3, 1, 1}, p[3] = {1, 1, 0};
+    const Transform t = Transform::placing(base, at, scale, kPi / 2);
+    EXPECT_FALSE(t.similarInPlan());
+    // A text along block X: its baseline grows three times, its height not.
+    RbPtr along(acutBuildList(RTDXF0, L"TEXT", 10, p, 40, 2.0, 1, L"A", 0));
+    apply({along.get()}, t);
+    expectPoint(find(along.get(), 10), 9, 23);  // (1,1) -> (3,1) -> turned (-1,3) -> moved
+    expectAngle(find(along.get(), 50), kPi / 2);
+    EXPECT_NEAR(real(along.get(), 40), 2.0, 1e-12);
+    EXPECT_NEAR(real(along.get(), 41), 3.0, 1e-12) << "three times as wide";
+    // A text along block Y: now its height is what grows, and its glyphs get narrower.
+    RbPtr across(acutBuildList(RTDXF0, L"ATTDEF", 10, p, 40, 2.0, 41, 0.9, 50, kPi / 2, 1, L"B", 2, L"T", 0));
+    apply({across.get()}, t);
+    expectAngle(find(across.get(), 50), kPi);
+    EXPECT_NEAR(real(across.get(), 40), 6.0, 1e-12);
+    EXPECT_NEAR(real(across.get(), 41), 0.3, 1e-12);
+    // A circle would become an ellipse: refused, and left as it was.
+    const double c[3] = {2, 0, 0};
+    RbPtr circle(acutBuildList(RTDXF0, L"CIRCLE", 10, c, 40, 1.0, 0));
+    std::vector<resbuf*> lists = {circle.get()};
+    EXPECT_FALSE(host::cmd::transformEntity(lists, t, false));
+    expectPoint(find(circle.get(), 10), 2, 0);
+    EXPECT_DOUBLE_EQ(real(circle.get(), 40), 1.0);
+}
+
+TEST_F(EntityTransform, MirroredBlockPlacementMirrorsArcsAndTextsAndScalesThicknessByZ) {
+    const double base[3] = {0, 0, 0}, scale[3] = {-2, 2, 5};
+    const Transform t = Transform::placing(base, base, scale, 0.0);
+    EXPECT_TRUE(t.similarInPlan()) << "X and Y change alike, one of them reversed";
+    EXPECT_TRUE(t.reflects());
+    // A quarter arc about (10,0) from 0 to 90 degrees, 1 thick: centre (-20,0), radius 10;
+    // its ends (15,0) and (10,5) go to (-30,0) and (-20,10), at 180 and 90 degrees.
+    const double c[3] = {10, 0, 0}, at[3] = {1, 0, 0};
+    RbPtr arc(acutBuildList(RTDXF0, L"ARC", 10, c, 39, 1.0, 40, 5.0, 50, 0.0, 51, kPi / 2, 0));
+    apply({arc.get()}, t);
+    expectPoint(find(arc.get(), 10), -20, 0);
+    EXPECT_DOUBLE_EQ(real(arc.get(), 40), 10.0);
+    EXPECT_DOUBLE_EQ(real(arc.get(), 39), 5.0);
+    expectAngle(find(arc.get(), 50), kPi / 2);
+    expectAngle(find(arc.get(), 51), kPi);
+    EXPECT_EQ(find(arc.get(), 210), nullptr) << "still drawn from above: extrusion +Z";
+    // Texts are part of the block's picture: mirrored, they are written backwards.
+    RbPtr text(acutBuildList(RTDXF0, L"TEXT", 10, at, 40, 1.0, 1, L"A", 0));
+    apply({text.get()}, t, true);
+    expectPoint(find(text.get(), 10), -2, 0);
+    EXPECT_DOUBLE_EQ(real(text.get(), 40), 2.0);
+    EXPECT_EQ(find(text.get(), 71)->resval.rint & 2, 2);
+}
+
 TEST_F(EntityTransform, KindsWithoutKnownGeometryAreLeftAlone) {
     const double p[3] = {1, 2, 0};
     RbPtr dim(acutBuildList(RTDXF0, L"DIMENSION", 10, p, 0));

@@ -198,6 +198,45 @@ class DrawingCommands(unittest.TestCase):
         line = msp.query("LINE")[0]
         self.assertTrue(line.dxf.end.isclose(m.transform((14, 0, 0)), abs_tol=1e-9))
 
+    def test_exploded_mirrored_reference_matches_what_another_reader_explodes(self):
+        doc = ezdxf.new("R2000")
+        block = doc.blocks.new("FITTING", base_point=(5, 5))
+        block.add_line((5, 5), (9, 7))
+        block.add_circle((7, 5), 1.5)
+        block.add_arc((5, 5), 3, 10, 100)
+        block.add_lwpolyline([(5, 5, 0, 0, 0.5), (8, 5, 0, 0, 0), (8, 8, 0, 0, 0)], format="xyseb")
+        doc.modelspace().add_blockref("FITTING", (40, 30), dxfattribs={
+            "xscale": -2, "yscale": 2, "zscale": 2, "rotation": 30})
+        source = self.source(doc)
+        # What ezdxf makes of the reference, read from the same file.
+        reference = ezdxf.readfile(source).modelspace().query("INSERT")[0]
+        expected = {e.dxftype(): e for e in reference.virtual_entities()}
+        run('(command "EXPLODE" (ssget "X" (list (cons 0 "INSERT"))) "")', drawing=source, save=self.out)
+        msp = audited(self.out).modelspace()
+        self.assertEqual(len(msp.query("INSERT")), 0)
+        line, circle, arc = msp.query("LINE")[0], msp.query("CIRCLE")[0], msp.query("ARC")[0]
+        self.assertTrue(line.dxf.start.isclose(expected["LINE"].dxf.start, abs_tol=1e-9))
+        self.assertTrue(line.dxf.end.isclose(expected["LINE"].dxf.end, abs_tol=1e-9))
+        # Readers may draw a mirrored circle from below (extrusion -Z): compare in the world.
+        self.assertTrue(circle.ocs().to_wcs(circle.dxf.center).isclose(
+            expected["CIRCLE"].ocs().to_wcs(expected["CIRCLE"].dxf.center), abs_tol=1e-9))
+        self.assertAlmostEqual(circle.dxf.radius, 3.0)
+        # Arcs compared by the points they pass, whichever way a reader writes them.
+        ours = [Vec3(p) for p in arc.vertices([arc.dxf.start_angle, arc.dxf.end_angle,
+                                               arc.dxf.start_angle + (arc.dxf.end_angle - arc.dxf.start_angle) % 360 / 2])]
+        theirs = expected["ARC"]
+        theirs = [Vec3(p) for p in theirs.vertices([theirs.dxf.start_angle, theirs.dxf.end_angle,
+                                                   theirs.dxf.start_angle + (theirs.dxf.end_angle - theirs.dxf.start_angle) % 360 / 2])]
+        self.assertTrue(ours[2].isclose(theirs[2], abs_tol=1e-9), "the arc runs through the same middle")
+        self.assertEqual({p.round(9) for p in ours[:2]}, {p.round(9) for p in theirs[:2]})
+        polyline = msp.query("LWPOLYLINE")[0]
+        ours = [Vec3(p) for p in polyline.vertices_in_wcs()]
+        theirs = [Vec3(p) for p in expected["LWPOLYLINE"].vertices_in_wcs()]
+        self.assertEqual(len(ours), len(theirs))
+        for a, b in zip(ours, theirs):
+            self.assertTrue(a.isclose(b, abs_tol=1e-9), (a, b))
+        self.assertAlmostEqual(polyline.get_points("b")[0][0], -0.5, msg="mirrored: the bulge turns the other way")
+
     def test_insert_of_a_missing_block_fails_the_script(self):
         source = self.source(self.tag_drawing())
         proc = run('(command "INSERT" "NOSUCH" (list 0 0) 1 "" 0)', drawing=source, expect_ok=False)
