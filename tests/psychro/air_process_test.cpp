@@ -1,6 +1,8 @@
 // Air-handling processes against worked examples (ASHRAE Handbook, Fundamentals 2017 (SI),
-// chapter 1, Examples 2, 3 and 4), against what each kind of process keeps constant, against
-// the heat and moisture balances, and the messages of the processes that cannot happen.
+// chapter 1, Examples 2 to 5; Hundy, Trott and Welch, Refrigeration and Air-Conditioning,
+// 4th ed. 2008, Examples 21.10 and 22.1; Cengel and Boles, Thermodynamics, 8th ed.,
+// Problem 14-91), against what each kind of process keeps constant, against the heat and
+// moisture balances, and the messages of the processes that cannot happen.
 //
 // Tolerances against the book: the library's saturation pressure reads 1.0–1.3 % high between
 // 0 and 30 °C (tests/airstate/published_values_test.cpp), so moisture contents near saturation
@@ -134,6 +136,127 @@ TEST(WorkedExample, MixingOutdoorAndRecirculatedAir) {
     EXPECT_EQ(r.Q, 0.0);
     EXPECT_EQ(r.W, 0.0);
     EXPECT_NEAR(r.epsilon, (outdoor.i - in.start.i) / (outdoor.d - in.start.d) * 1000.0, 1e-6);
+}
+
+AirState tempMoisture(double t, double d, double B = kB) {
+    AirState s;
+    s.B = B;
+    s.t = t;
+    s.d = d;
+    EXPECT_EQ(StateFromTempMoisture(s), RTNORM);
+    return s;
+}
+
+// British books give "percentage saturation": d as a share of the saturated d at the same t.
+AirState tempSaturationShare(double t, double percent) {
+    return tempMoisture(t, percent / 100.0 * tempHumidity(t, 100.0).d);
+}
+
+TEST(WorkedExample, EvaporativeCoolerSaturatesAtTheWetBulbAndPartWayAlongIt) {
+    // Hundy, Trott and Welch, Example 22.1: air at 37 °C and 24 % saturation would end
+    // saturated at 21.5 °C; at a saturation efficiency of 75 % it leaves at 25.4 °C. Both
+    // figures are read to 0.1 K; the library's saturation pressure, about 1 % high, moves the
+    // wet bulb by less than 0.1 K.
+    const AirState start = tempSaturationShare(37.0, 24.0);
+    ProcessInput in = from(ProcessKind::adiabatic, start, 3600.0);
+    in.endFy = 100.0;
+    const ProcessResult saturated = computeProcess(in);
+    expectBalances(in, saturated);
+    EXPECT_NEAR(saturated.end.t, 21.5, 0.2);
+    EXPECT_NEAR(saturated.end.i, start.i, 1e-6) << "an evaporative cooler keeps the enthalpy";
+    EXPECT_NEAR(saturated.Q, 0.0, 1e-6);
+    // Three quarters of the way: along the isenthalp d grows in step with the fall of t
+    // (to within 0.05 K over this range), so three quarters of the moisture is taken up.
+    in.given = EndGiven::moisture;
+    in.endD = start.d + 0.75 * (saturated.end.d - start.d);
+    const ProcessResult part = computeProcess(in);
+    expectBalances(in, part);
+    EXPECT_NEAR(part.end.t, 25.4, 0.2);
+    EXPECT_NEAR(part.end.i, start.i, 1e-6);
+}
+
+TEST(WorkedExample, EvaporativeCoolerAtAnAltitudesPressure) {
+    // Cengel and Boles, Problem 14-91: air at 95 kPa, 40 °C and 25 % leaves an evaporative
+    // cooler saturated at 23.1 °C.
+    ProcessInput in = from(ProcessKind::adiabatic, tempHumidity(40.0, 25.0, 95.0), 1000.0);
+    in.endFy = 100.0;
+    const ProcessResult r = computeProcess(in);
+    expectBalances(in, r);
+    EXPECT_DOUBLE_EQ(r.end.B, 95.0);
+    EXPECT_NEAR(r.end.t, 23.1, 0.2);
+}
+
+TEST(WorkedExample, SteamInjectionFollowsTheSteamEnthalpyAndIsNearlyIsothermal) {
+    // ASHRAE Example 5: 2 kg/s of air at 20 °C dry bulb and 8 °C wet bulb is brought to a dew
+    // point of 13 °C with saturated steam at 110 °C (2691 kJ/kg): 21 °C, 0.015 kg/s of steam.
+    // The state moves along the heat-moisture ratio of the steam's enthalpy.
+    AirState start;
+    start.B = kB;
+    start.t = 20.0;
+    start.ts = 8.0;
+    ASSERT_EQ(StateFromTempWetBulb(start), RTNORM);
+    const double dEnd = tempHumidity(13.0, 100.0).d;
+    ProcessInput in = from(ProcessKind::ratio, start, 2.0 * 3600.0);
+    in.epsilon = 2691.0;
+    in.given = EndGiven::moisture;
+    in.endD = dEnd;
+    const ProcessResult r = computeProcess(in);
+    expectBalances(in, r);
+    EXPECT_NEAR(r.end.t, 21.0, 0.3);  // read off the chart with the protractor
+    EXPECT_NEAR(r.end.tl, 13.0, 1e-3);
+    // The library's saturated d at 13 °C reads 1.1 % high and its d at 20 °C / 8 °C wet bulb
+    // 0.1 g/kg low; on a difference of 7.5 g/kg that is 3 % more steam than the book's.
+    EXPECT_NEAR(r.W / 3600.0, 0.015, 0.015 * 0.04);
+    EXPECT_NEAR(r.Q, r.W / 3600.0 * 2691.0, 1e-6) << "the heat brought in is the steam's enthalpy";
+    // The designer's isothermal steam humidifier to the same moisture: the same steam, the
+    // temperature kept, the heat one degree of air short of the steam's.
+    ProcessInput iso = from(ProcessKind::steam, start, in.G);
+    iso.given = EndGiven::moisture;
+    iso.endD = dEnd;
+    const ProcessResult s = computeProcess(iso);
+    expectBalances(iso, s);
+    EXPECT_NEAR(s.W, r.W, 1e-9);
+    EXPECT_DOUBLE_EQ(s.end.t, 20.0);
+    EXPECT_NEAR(r.Q - s.Q, 2.0 * 1.01 * (r.end.t - 20.0), 0.02 * r.Q);
+}
+
+TEST(WorkedExample, RoomRatioLineMeetsSaturationAtTheApparatusDewPoint) {
+    // Hundy, Trott and Welch, Example 21.10: a room at 23 °C and 40 % saturation loses 36 kW
+    // of sensible and 14 kW of latent heat to the coil; the ratio line meets the saturation
+    // curve at -1 °C, the apparatus dew point, and air cooled to 5 °C on it has met a coil
+    // contact factor of 75 %. The latent part of a change is the enthalpy it gains at the
+    // room's temperature, Δd·(2500 + 1.84·23) kJ/kg: the heat-moisture ratio is 50 kW over
+    // 14 kW / 2542.3 kJ/kg.
+    const AirState room = tempSaturationShare(23.0, 40.0);
+    const double epsilon = 50.0 / (14.0 / (2500.0 + 1.84 * 23.0));
+    auto along = [&](double t) {
+        ProcessInput in = from(ProcessKind::ratio, room, 3600.0);
+        in.epsilon = epsilon;
+        in.endT = t;
+        return computeProcess(in);
+    };
+    // Where the line reaches φ = 100 %, by halving between 10 °C (unsaturated) and -5 °C.
+    double warm = 10.0, cold = -5.0;
+    ASSERT_LT(along(warm).end.fy, 100.0);
+    for (int k = 0; k < 60; ++k) {
+        const double mid = 0.5 * (warm + cold);
+        const ProcessResult r = along(mid);
+        (r.ok() && r.end.fy < 100.0 ? warm : cold) = mid;
+    }
+    const double adp = 0.5 * (warm + cold);
+    EXPECT_NEAR(adp, -1.0, 0.5);
+    // The same coil as a cooling towards that dew point, stopped at the state the line has
+    // at 5 °C: three quarters of the way in i and d.
+    const ProcessResult at5 = along(5.0);
+    ASSERT_TRUE(at5.ok());
+    ProcessInput coil = from(ProcessKind::dewPoint, room, 3600.0);
+    coil.dewPointT = adp;
+    coil.endFy = at5.end.fy;
+    const ProcessResult c = computeProcess(coil);
+    expectBalances(coil, c);
+    EXPECT_NEAR(c.end.t, 5.0, 0.05);
+    EXPECT_NEAR(c.contactFactor, 0.75, 0.02);
+    EXPECT_NEAR(c.epsilon, epsilon, 0.01 * epsilon);
 }
 
 TEST(ProcessGeometry, EachKindKeepsWhatItKeepsConstantAndClosesItsBalances) {
