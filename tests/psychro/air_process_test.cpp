@@ -1,6 +1,6 @@
 // Air-handling processes against worked examples (ASHRAE Handbook, Fundamentals 2017 (SI),
 // chapter 1, Examples 2 to 5; Hundy, Trott and Welch, Refrigeration and Air-Conditioning,
-// 4th ed. 2008, Examples 21.10 and 22.1; Cengel and Boles, Thermodynamics, 8th ed.,
+// 4th ed. 2008, Examples 21.8, 21.10 and 22.1; Cengel and Boles, Thermodynamics, 8th ed.,
 // Problem 14-91), against what each kind of process keeps constant, against the heat and
 // moisture balances, and the messages of the processes that cannot happen.
 //
@@ -218,6 +218,24 @@ TEST(WorkedExample, SteamInjectionFollowsTheSteamEnthalpyAndIsNearlyIsothermal) 
     EXPECT_NEAR(s.W, r.W, 1e-9);
     EXPECT_DOUBLE_EQ(s.end.t, 20.0);
     EXPECT_NEAR(r.Q - s.Q, 2.0 * 1.01 * (r.end.t - 20.0), 0.02 * r.Q);
+}
+
+TEST(WorkedExample, CoilWithAContactFactorLeavesPartWayToItsSurfaceTemperature) {
+    // Hundy, Trott and Welch, Example 21.8: air at 24 °C and 45 % saturation over a coil at
+    // 7 °C with a contact factor of 0.78 leaves at 10.7 °C and 85 % saturation (by the chart;
+    // 10.74 °C and 27.81 kJ/kg by calculation from the book's enthalpies 45.85 and 22.72).
+    ProcessInput in = from(ProcessKind::dewPoint, tempSaturationShare(24.0, 45.0), 3600.0);
+    in.dewPointT = 7.0;
+    in.endFy = tempSaturationShare(10.7, 85.0).fy;
+    const ProcessResult r = computeProcess(in);
+    expectBalances(in, r);
+    // The 85 % is read off the chart to about 1 %; near saturation φ changes slowly along
+    // the coil line, and 1 % of it there is 0.3 K and 0.02 of contact factor.
+    EXPECT_NEAR(r.end.t, 10.7, 0.35);
+    EXPECT_NEAR(r.contactFactor, 0.78, 0.025);
+    // Between the entering air and saturated air at the coil's surface: the book's tables.
+    EXPECT_NEAR(r.start.i - r.dewPoint.i, 45.85 - 22.72, 0.3);
+    EXPECT_NEAR(r.dewPoint.t, 7.0, 1e-9);
 }
 
 TEST(WorkedExample, RoomRatioLineMeetsSaturationAtTheApparatusDewPoint) {
