@@ -12,6 +12,7 @@
 #include "frame/tile_numbers.h"
 #include "psychro/air_mix.h"
 #include "psychro/chart_marks.h"
+#include "psychro/chart_state.h"
 #include "psychro/id_chart.h"
 #include "psychro/journal_entries.h"
 #include "psychro/remembered_pressure.h"
@@ -34,7 +35,6 @@ constexpr wchar_t kMsgCannotLoad[] = L"Unable to initialize dialog box.";
 constexpr wchar_t kMsgCannotCreate[] = L"Invalid Entry.";
 constexpr wchar_t kMsgBadPressure[] = L"无效的大气压值.";
 constexpr wchar_t kMsgPressureRange[] = L"大气压值在70-180kPa之间";
-constexpr wchar_t kMsgNoChart[] = L"先生成焓湿图.";
 
 struct StreamInput {
     const wchar_t* tile;
@@ -136,11 +136,8 @@ bool runMixDialog(DialogSession& dialogs, Session& session, int& status) {
 // The mixing line from A to B and the three points on the chart. Without a chart the user is
 // told to draw one first and answers false, so that the dialog opens again.
 bool drawMixOnChart() {
+    if (!chartIsDrawn()) return false;
     const IdChart& chart = idChart();
-    if (!chart.drawn) {
-        acutPrintf(kMsgNoChart);
-        return false;
-    }
     const double* r = mixingRecord().values;
     ChartPoint pa = chartPointOf(chart, r[1], r[0]);
     ChartPoint pb = chartPointOf(chart, r[4], r[3]);

@@ -1,6 +1,9 @@
 #include "psychro/chart_state.h"
 
+#include "acutads.h"
+#include "adscodes.h"
 #include "frame/doc_data.h"
+#include "psychro/id_chart.h"
 
 namespace vrn2 {
 
@@ -20,6 +23,19 @@ void keepCalculatedState(const AirState& state) {
 ChartRequest& lastChartRequest() {
     static ChartRequest request;
     return request;
+}
+
+bool chartIsDrawn() {
+    if (idChart().drawn) return true;
+    acutPrintf(L"先生成焓湿图.");
+    return false;
+}
+
+bool chartAirStateAt(const IdChart& chart, double x, double y, AirState& state) {
+    state = AirState{};
+    state.B = chart.B;
+    chartStateAt(chart, x, y, state.i, state.d);
+    return StateFromEnthalpyMoisture(state) == RTNORM;
 }
 
 }  // namespace vrn2

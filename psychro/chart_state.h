@@ -28,4 +28,12 @@ void keepCalculatedState(const AirState& state);
 // The chart dialog's last accepted inputs (the corner is not one of them).
 ChartRequest& lastChartRequest();
 
+// Whether the current drawing has an i-d chart to draw on or pick from; when it has none the
+// command line says so ("先生成焓湿图.").
+bool chartIsDrawn();
+
+// The air state at drawing point (X, Y) of CHART, solved at the chart's pressure; false when
+// the point stands for no air (past saturation, or at negative moisture).
+bool chartAirStateAt(const IdChart& chart, double x, double y, AirState& state);
+
 }  // namespace vrn2

@@ -16,7 +16,6 @@
 namespace vrn2 {
 namespace {
 
-constexpr wchar_t kMsgNoChart[] = L"\n先生成焓湿图.";
 constexpr wchar_t kMsgNoNewPoints[] = L"\n没有新的状态点.";
 constexpr wchar_t kMsgNoTable[] = L"\n焓湿图上还没有状态点表.";
 constexpr wchar_t kMsgOtherPressure[] = L"\n%d个状态点的大气压力与焓湿图不同, 未列入表中.";
@@ -45,9 +44,7 @@ void takePickedStates(const IdChart& chart, std::vector<ChartStatePoint>& table)
     ads_point picked = {0.0, 0.0, 0.0};
     while (acedGetPoint(nullptr, kPointPrompt, picked) == RTNORM) {
         AirState state;
-        state.B = chart.B;
-        chartStateAt(chart, picked[X], picked[Y], state.i, state.d);
-        if (StateFromEnthalpyMoisture(state) != RTNORM) {
+        if (!chartAirStateAt(chart, picked[X], picked[Y], state)) {
             acutPrintf(kMsgNotAirState);
             continue;
         }
@@ -78,11 +75,8 @@ bool drawNewRows(const IdChart& chart, const DrawnChart& drawn, size_t firstRow)
 }  // namespace
 
 int drawStatePointTable() {
+    if (!chartIsDrawn()) return RTNORM;
     const IdChart& chart = idChart();
-    if (!chart.drawn) {
-        acutPrintf(kMsgNoChart);
-        return RTNORM;
-    }
     DrawnChart& drawn = drawnChart();
     const size_t firstRow = drawn.table.size();
     takeCalculatedStates(chart, drawn.table);

@@ -26,7 +26,6 @@ constexpr wchar_t kCannotLoad[] = L"不能装载对话框.";
 constexpr wchar_t kCannotInitialise[] = L"不能初始化对话框.";
 constexpr wchar_t kCannotShowHelp[] = L"不能显示这对话框.";
 constexpr wchar_t kMsgNoState[] = L"还没有求得的状态点,先用状态点计算(CI_DT)求出.";
-constexpr wchar_t kMsgNoChart[] = L"\n先生成焓湿图.";
 constexpr wchar_t kMsgBadPick[] = L"\n所选点不是合理的湿空气状态.";
 constexpr wchar_t kMsgNotDrawn[] = L"\n过程没有画在焓湿图上.";
 constexpr wchar_t kPickPrompt[] = L"\n选择初始状态点: ";
@@ -209,17 +208,11 @@ void fillDialog(const DialogSession& dialogs, Session& session) {
 
 // The start state under a point picked on the chart, at the chart's pressure.
 void pickStartState() {
-    const IdChart& chart = idChart();
-    if (!chart.drawn) {
-        acutPrintf(kMsgNoChart);
-        return;
-    }
+    if (!chartIsDrawn()) return;
     ads_point picked = {0.0, 0.0, 0.0};
     if (acedGetPoint(nullptr, kPickPrompt, picked) != RTNORM) return;
     AirState state;
-    state.B = chart.B;
-    chartStateAt(chart, picked[X], picked[Y], state.i, state.d);
-    if (StateFromEnthalpyMoisture(state) != RTNORM) {
+    if (!chartAirStateAt(idChart(), picked[X], picked[Y], state)) {
         acutPrintf(kMsgBadPick);
         return;
     }

@@ -29,7 +29,6 @@ constexpr int kStatusPickPoint = 4;
 constexpr wchar_t kMsgCannotOpen[] = L"Unable to initialize dialog box.";
 constexpr wchar_t kMsgBadPressure[] = L"无效的大气压值.";
 constexpr wchar_t kMsgWetAboveDry[] = L"TS值不能大于T值.";
-constexpr wchar_t kMsgNoChart[] = L"先生成焓湿图.";
 constexpr wchar_t kPickPrompt[] = L"\n选择点: ";
 
 // The chosen pair, remembered while the module is loaded so the dialog opens with it.
@@ -132,18 +131,13 @@ void fillDialog(const DialogSession& dialogs, Session& session) {
 
 // The state under a point picked on the chart, solved at the pressure the chart was drawn for.
 void stateFromPickedPoint(const Session& session) {
+    if (!chartIsDrawn()) return;
     const IdChart& chart = idChart();
-    if (!chart.drawn) {
-        acutPrintf(kMsgNoChart);
-        return;
-    }
     ads_point picked = {0.0, 0.0, 0.0};
     if (acedGetPoint(nullptr, kPickPrompt, picked) != RTNORM) return;
     ShownState shown;
     shown.choice = kChoicePickedPoint;
-    shown.state.B = chart.B;
-    chartStateAt(chart, picked[X], picked[Y], shown.state.i, shown.state.d);
-    shown.outcome = StateFromEnthalpyMoisture(shown.state) == RTNORM ? kOutcomeValid : kOutcomeImpossible;
+    shown.outcome = chartAirStateAt(chart, picked[X], picked[Y], shown.state) ? kOutcomeValid : kOutcomeImpossible;
     if (shown.outcome == kOutcomeValid) keepCalculatedState(shown.state);
     if (session.markPickedPoint) markChartPoint(picked, chart.markDiameter);
     shown.journal = statePointEntry(shown.choice, shown.state, shown.outcome);
