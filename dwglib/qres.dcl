@@ -58,7 +58,7 @@ q_report : dialog {
     label = "生成计算书";
     : edit_box { key = "name"; label = "文件名:"; edit_width = 32; edit_limit = 120; value = "计算书.docx"; }
     : paragraph {
-        : text_part { label = "计算书是 Word 文档 (.docx), 写在当前文件夹中; 同名的文件将被替换."; }
+        : text_part { label = "计算书是 Word 文档 (.docx), 写在当前文件夹中; 已有同名文件时先提示, 再按生成才替换."; }
         : text_part { label = "其中按先后列出本次保存过的各项计算: 输入参数、计算结果和状态点,"; }
         : text_part { label = "当前图形中绘有焓湿图时, 附上焓湿图并标出各状态点."; }
     }

@@ -59,8 +59,15 @@ int askChoice() {
     return dialogs.run();
 }
 
+struct ReportName {
+    std::wstring accepted;
+    std::wstring warnedAbout;  // an existing file the user has been told would be replaced
+};
+
+// A name of an existing file is taken when "accept" is pressed again for it: a report the
+// designer has since edited is not replaced by one press.
 void onAcceptName(ads_callback_packet* packet) {
-    auto* name = static_cast<std::wstring*>(packet->client_data);
+    auto* name = static_cast<ReportName*>(packet->client_data);
     clearInputError(packet->dialog);
     std::wstring typed;
     readTileText(packet->dialog, L"name", kNameChars, typed);
@@ -70,7 +77,13 @@ void onAcceptName(ads_callback_packet* packet) {
         showInputError(packet->dialog, fault, L"name");
         return;
     }
-    *name = fileName;
+    if (fileExists(fileName.c_str()) && name->warnedAbout != fileName) {
+        name->warnedAbout = fileName;
+        showInputError(packet->dialog, (L"文件 " + fileName + L" 已存在: 再按\"生成\"替换它, 或改用别的文件名.").c_str(),
+                       L"name");
+        return;
+    }
+    name->accepted = fileName;
     ads_done_dialog(packet->dialog, DLGOK);
 }
 
@@ -80,9 +93,9 @@ std::wstring askReportName() {
     if (!dialogs.loaded()) return L"";
     if (!dialogs.create(L"q_report", {Channel::Alert, kMsgCannotCreate})) return L"";
     ads_set_tile(dialogs.dialog(), L"name", kDefaultReportName);
-    std::wstring name;
+    ReportName name;
     dialogs.action(L"accept", onAcceptName, &name);
-    return dialogs.run() == DLGOK ? name : L"";
+    return dialogs.run() == DLGOK ? name.accepted : L"";
 }
 
 }  // namespace

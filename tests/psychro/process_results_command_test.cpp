@@ -102,10 +102,33 @@ TEST_F(ProcessResults, TheReportIsAWordPackageWithoutAChartWhenNoneIsDrawn) {
     EXPECT_FALSE(exists("送风.docx.part"));
 }
 
+TEST_F(ProcessResults, AnExistingReportIsReplacedOnlyWhenAcceptIsPressedAgain) {
+    saveSupplyAir();
+    writeFile("计算书.docx", "edited by hand");
+    // Pressed once: told in the dialog, and the user cancels.
+    queue(L"q_resdlg", {press(L"report")});
+    queue(L"q_report", {press(L"accept"), press(L"cancel")});
+    call(L"c:q_res");
+    EXPECT_EQ(dialog(L"q_report")->value(L"error"), L"文件 计算书.docx 已存在: 再按\"生成\"替换它, 或改用别的文件名.");
+    EXPECT_EQ(fileBytes("计算书.docx"), "edited by hand");
+    // A new name goes through at once; the warned name needs its second press.
+    queue(L"q_resdlg", {press(L"report")});
+    queue(L"q_report", {press(L"accept"), set(L"name", L"另一份"), press(L"accept")});
+    call(L"c:q_res");
+    EXPECT_EQ(fileBytes("计算书.docx"), "edited by hand");
+    EXPECT_EQ(zipEntries("另一份.docx").size(), 5u);
+    queue(L"q_resdlg", {press(L"report")});
+    queue(L"q_report", {press(L"accept"), press(L"accept")});
+    call(L"c:q_res");
+    EXPECT_EQ(zipEntries("计算书.docx").size(), 5u) << "replaced by the report";
+}
+
 TEST_F(ProcessResults, AFileThatCannotBeWrittenIsReportedAndLeftAsItWas) {
     saveSupplyAir();
     fs::create_directory(dir_ / "占用.docx");
-    writeReport(L"占用.docx");
+    queue(L"q_resdlg", {press(L"report")});
+    queue(L"q_report", {set(L"name", L"占用.docx"), press(L"accept"), press(L"accept")});
+    call(L"c:q_res");
     EXPECT_EQ(alerts(), (Entries{L"不能写入计算书文件 占用.docx, 原有文件未改动."}));
     EXPECT_TRUE(fs::is_directory(dir_ / "占用.docx"));
     EXPECT_FALSE(exists("占用.docx.part"));
