@@ -3,7 +3,7 @@
 #   dxf/   the example drawings, the heating-system drawing and small generated drawings
 #          of each version (seed_drawings.py; both need python3 with ezdxf)
 #   dcl/   the module's dialog files and the DCL test files
-#   lisp/  the example scripts and the console test programs
+#   lisp/  the example scripts, the console test programs and fuzz/commands.lsp
 # and the dictionaries dxf.dict, dcl.dict and lisp.dict beside them.
 # Usage: fuzz/make_seeds.sh SOURCE_ROOT OUTPUT_FOLDER   (the folder is made anew)
 set -euo pipefail
@@ -26,7 +26,7 @@ while IFS= read -r -d '' f; do
   cp "$f" "$out/dcl/${rel//\//_}"
 done < <(find "$src/dwglib" "$src/tests/host_dcl/data" "$src/tests/frame/data" -name '*.dcl' -print0)
 
-cp "$src"/examples/*.lsp "$src"/tests/console/programs/*.lsp "$out/lisp/"
+cp "$src"/examples/*.lsp "$src"/tests/console/programs/*.lsp "$src"/fuzz/*.lsp "$out/lisp/"
 # Dictionaries: the words of DXF and DCL, and the names of the AutoLISP functions the console defines.
 cp "$src/fuzz/dxf.dict" "$src/fuzz/dcl.dict" "$out/"
 {
@@ -45,5 +45,8 @@ cp "$src/fuzz/dxf.dict" "$src/fuzz/dcl.dict" "$out/"
 MARKS
   grep -ho 'define(L"[^"]*"' "$src"/host/lisp/*.cpp | sed 's/^define(L"//; s/"$//' | sort -u |
     tr 'A-Z' 'a-z' | sed 's/\\/\\\\/g; s/"/\\"/g; s/.*/"&"/'
+  # The host's commands, as (command ...) names them.
+  grep -ho 'CommandRegistration [A-Za-z0-9_]*(L"[^"]*"' "$src"/host/commands/*.cpp |
+    sed 's/.*(L"//; s/"$//' | sort -u | sed 's/.*/"\\"&\\""/'
 } >"$out/lisp.dict"
 echo "seeds in $out: $(ls "$out/dxf" | wc -l) DXF, $(ls "$out/dcl" | wc -l) DCL, $(ls "$out/lisp" | wc -l) AutoLISP"
