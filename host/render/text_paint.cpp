@@ -44,6 +44,30 @@ cairo_font_face_t* chineseFace() {
     return face;
 }
 
+// Signs that a face may map to an empty glyph (WenQuanYi Micro Hei draws nothing for ℃), and
+// their plain spelling.
+struct Spelling {
+    wchar_t sign;
+    const wchar_t* spelt;
+};
+constexpr Spelling kSpellings[] = {{L'\u2103', L"\u00b0C"}, {L'\u2109', L"\u00b0F"}};
+
+bool drawsInk(cairo_t* cr, wchar_t sign) {
+    cairo_text_extents_t e;
+    cairo_text_extents(cr, toUtf8(std::wstring(1, sign)).c_str(), &e);
+    return e.width > 0.0 && e.height > 0.0;
+}
+
+// TEXT in UTF-8 as the current font can draw it: a sign it has no ink for is spelt out.
+std::string drawable(cairo_t* cr, std::wstring text) {
+    for (const Spelling& s : kSpellings) {
+        if (text.find(s.sign) == std::wstring::npos || drawsInk(cr, s.sign)) continue;
+        for (size_t at = text.find(s.sign); at != std::wstring::npos; at = text.find(s.sign, at))
+            text.replace(at, 1, s.spelt);
+    }
+    return toUtf8(text);
+}
+
 // Width of a line of text at the current font, in user units.
 double advance(cairo_t* cr, const std::string& utf8) {
     cairo_text_extents_t e;
@@ -100,7 +124,6 @@ void Lettering::useFont(cairo_t* cr, double height, double widthFactor, double o
 void Lettering::paintText(cairo_t* cr, const db::Database& db, const db::GroupList& g) {
     const db::Group* content = db::findCode(g, 1);
     if (!content || content->text.empty()) return;
-    std::string utf8 = toUtf8(content->text);
     Look style = styleLook(db, g);
     double height = realOr(g, 40, 0.0);
     if (height <= 0.0) height = style.height > 0.0 ? style.height : 2.5;
@@ -118,6 +141,7 @@ void Lettering::paintText(cairo_t* cr, const db::Database& db, const db::GroupLi
     cairo_rotate(cr, angle);
     cairo_scale(cr, 1.0, -1.0);  // text space: Y down like font space
     useFont(cr, height, widthFactor, oblique);
+    const std::string utf8 = drawable(cr, content->text);
     double width = advance(cr, utf8);
     if (fitted && width > 0.0) {
         double ratio = std::hypot(second.x - first.x, second.y - first.y) / width;
@@ -169,7 +193,7 @@ void Lettering::paintMText(cairo_t* cr, const db::Database& db, const db::GroupL
     useFont(cr, height, style.widthFactor, style.oblique);
     double baseline = height - total * row / 2.0;  // top, middle or bottom of the block
     for (const auto& line : lines) {
-        std::string utf8 = toUtf8(line);
+        std::string utf8 = drawable(cr, line);
         double width = advance(cr, utf8);
         cairo_move_to(cr, -width * column / 2.0, baseline);
         cairo_show_text(cr, utf8.c_str());

@@ -173,6 +173,16 @@ class TextsBlocksAndScreenGraphics(unittest.TestCase):
         # The glyphs stand on the baseline and reach about the text's height above it.
         self.assert_lettered_in(rows, width, height, (0, 0, 255), (0, 0, 40, 10))
 
+    def test_the_degree_celsius_sign_is_drawn_even_where_the_font_has_no_ink_for_it(self):
+        # WenQuanYi Micro Hei maps ℃ to an empty glyph: the picture spells it °C.
+        width, height, rows = render('(command "LAYER" "M" "NOTE" "C" "5" "" "")',
+                                     '(command "TEXT" \'(0 0) 10 0 "5℃")', *self.FRAME)
+        self.assert_lettered_in(rows, width, height, (0, 0, 255), (0, 0, 40, 10))
+        at = plan_to_picture(((-5, -5), (45, 15)), width, height)
+        # Ink right of the digit: where the sign is.
+        (sign_left, _), (sign_right, _) = at(8, 0), at(16, 0)
+        self.assertTrue(any(sign_left <= x <= sign_right for x, _ in coloured(rows, (0, 0, 255))))
+
     def test_mtext_lines_hang_from_the_top_left_corner(self):
         width, height, rows = render(
             '(entmake \'((0 . "MTEXT") (100 . "AcDbEntity") (8 . "0") (62 . 3) (100 . "AcDbMText")'
