@@ -40,6 +40,15 @@ AirState tempHumidity(double t, double fy, double B = kB) {
     return s;
 }
 
+AirState tempWetBulb(double t, double ts) {
+    AirState s;
+    s.B = kB;
+    s.t = t;
+    s.ts = ts;
+    EXPECT_EQ(StateFromTempWetBulb(s), RTNORM);
+    return s;
+}
+
 ProcessInput from(ProcessKind kind, const AirState& start, double G) {
     ProcessInput in;
     in.kind = kind;
@@ -113,11 +122,7 @@ TEST(WorkedExample, CoolingAndDehumidifyingFrom30C50PercentToSaturationAt10C) {
 TEST(WorkedExample, MixingOutdoorAndRecirculatedAir) {
     // Example 4: 2 m³/s of outdoor air at 4 °C dry bulb and 2 °C wet bulb (2.535 kg/s) mixed
     // with 6.25 m³/s of room air at 25 °C and 50 % (7.284 kg/s): 19.5 °C, wet bulb 14.6 °C.
-    AirState outdoor;
-    outdoor.B = kB;
-    outdoor.t = 4.0;
-    outdoor.ts = 2.0;
-    ASSERT_EQ(StateFromTempWetBulb(outdoor), RTNORM);
+    const AirState outdoor = tempWetBulb(4.0, 2.0);
     ProcessInput in = from(ProcessKind::mixing, tempHumidity(25.0, 50.0), 7.284 * 3600.0);
     in.second = outdoor;
     in.G2 = 2.535 * 3600.0;
@@ -190,11 +195,7 @@ TEST(WorkedExample, SteamInjectionFollowsTheSteamEnthalpyAndIsNearlyIsothermal) 
     // ASHRAE Example 5: 2 kg/s of air at 20 °C dry bulb and 8 °C wet bulb is brought to a dew
     // point of 13 °C with saturated steam at 110 °C (2691 kJ/kg): 21 °C, 0.015 kg/s of steam.
     // The state moves along the heat-moisture ratio of the steam's enthalpy.
-    AirState start;
-    start.B = kB;
-    start.t = 20.0;
-    start.ts = 8.0;
-    ASSERT_EQ(StateFromTempWetBulb(start), RTNORM);
+    const AirState start = tempWetBulb(20.0, 8.0);
     const double dEnd = tempHumidity(13.0, 100.0).d;
     ProcessInput in = from(ProcessKind::ratio, start, 2.0 * 3600.0);
     in.epsilon = 2691.0;
