@@ -8,7 +8,8 @@ namespace host::cmd {
 
 // A block reference: the entities of its block placed where it shows them, with their own
 // layers and colours; attribute definitions come back, the reference's attributes go.
-// References scaled differently along X and Y are refused, as are arrays of them.
+// References whose X and Y scales differ in size are refused, as are arrays of them; a
+// mirrored reference (X = -Y) gives the mirror image of its block.
 bool explodeReference(const Name& insert);
 
 // A light-weight or old-style 2D or 3D polyline: a LINE for each straight segment and an

@@ -326,10 +326,11 @@ void textSize(const Mapper& m, resbuf* list, double angle) {
     const double length = std::hypot(along[0], along[1]);
     const double area = std::fabs(along[0] * across[1] - along[1] * across[0]);
     if (!(length > 0 && area > 0)) return;
-    const double height = area / length, width = length / height;
-    if (resbuf* g = group(list, 40)) g->resval.rreal *= height;
-    if (resbuf* g = group(list, 41)) g->resval.rreal *= width;
-    else if (std::fabs(width - 1.0) > 1e-12) addGroup(list, 41)->resval.rreal = width;
+    // The height grows as the stretch across the baseline, the glyphs' width as the stretch along it.
+    const double heightScale = area / length, widthFactorScale = length / heightScale;
+    if (resbuf* g = group(list, 40)) g->resval.rreal *= heightScale;
+    if (resbuf* g = group(list, 41)) g->resval.rreal *= widthFactorScale;
+    else if (std::fabs(widthFactorScale - 1.0) > 1e-12) addGroup(list, 41)->resval.rreal = widthFactorScale;
     scaleThickness(m, list);
 }
 
