@@ -20,20 +20,6 @@ double realOr(const resbuf* list, int code, double fallback) {
     return g ? g->resval.rreal : fallback;
 }
 
-// A copy of an entity list for acdbEntMake: without its name, handle, owner and subclasses.
-RbPtr copyForMaking(const resbuf* list) {
-    resbuf* head = nullptr;
-    resbuf** tail = &head;
-    bool xdata = false;
-    for (const resbuf* rb = list; rb; rb = rb->rbnext) {
-        xdata |= rb->restype == -3;
-        if (!xdata && (rb->restype < 0 || isAnyOf(rb->restype, {5, 102, 330, 360, 100}))) continue;
-        *tail = copyNode(rb);
-        tail = &(*tail)->rbnext;
-    }
-    return RbPtr(head);
-}
-
 bool placementOf(const resbuf* insert, const BlockDefinition& block, Placement& p) {
     const resbuf* at = findGroup(insert, 10);
     if (!at) return false;

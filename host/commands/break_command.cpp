@@ -21,27 +21,6 @@
 namespace host::cmd {
 namespace {
 
-bool has(const std::vector<int>& codes, int code) {
-    for (int c : codes)
-        if (c == code) return true;
-    return false;
-}
-
-// A copy of an entity list for acdbEntMake: without its name and the groups of the codes
-// given (extended data kept).
-RbPtr copyFor(const resbuf* list, const std::vector<int>& drop) {
-    resbuf* head = nullptr;
-    resbuf** tail = &head;
-    bool xdata = false;
-    for (const resbuf* rb = list; rb; rb = rb->rbnext) {
-        xdata |= rb->restype == -3;
-        if (rb->restype == -1 || (!xdata && has(drop, rb->restype))) continue;
-        *tail = copyNode(rb);
-        tail = &(*tail)->rbnext;
-    }
-    return RbPtr(head);
-}
-
 // Puts more right after the type group (group 0) of list.
 void insertAfterType(resbuf* list, resbuf* more) {
     if (!more) return;
@@ -98,7 +77,7 @@ resbuf* lwVertices(const Path& piece, bool widths) {
 
 int makePolyline(const Entity& e, const Path& piece) {
     int flags = integer(e.list.get(), 70) & ~1;
-    RbPtr head = copyFor(e.list.get(), {5, 330, 100, 70});
+    RbPtr head = copyForMaking(e.list.get(), {70});
     insertAfterType(head.get(), acutBuildList(70, flags, 0));
     if (int s = make(std::move(head)); s != RTNORM) return s;
     for (const auto& v : piece.vertices) {
@@ -120,7 +99,7 @@ int applyPieces(const Entity& e, const std::vector<Path>& pieces) {
         return RTNORM;
     }
     if (e.type == L"CIRCLE") {
-        RbPtr arc = copyFor(l, {5, 330, 100});
+        RbPtr arc = copyForMaking(l);
         setType(arc.get(), L"ARC");
         insertAfterType(arc.get(), arcAngles(findGroup(l, 10)->resval.rpoint, pieces.front()));
         if (int s = make(std::move(arc)); s != RTNORM) return s;
@@ -132,21 +111,21 @@ int applyPieces(const Entity& e, const std::vector<Path>& pieces) {
         std::vector<int> replaced;
         if (e.type == L"LINE") {
             changes = acutBuildList(10, piece.vertices.front().p, 11, piece.vertices.back().p, 0);
-            replaced = {5, 330, 100, 10, 11};
+            replaced = {10, 11};
         } else if (e.type == L"ARC") {
             changes = arcAngles(findGroup(l, 10)->resval.rpoint, piece);
-            replaced = {5, 330, 100, 50, 51};
+            replaced = {50, 51};
         } else {  // LWPOLYLINE
             bool widths = findGroup(l, 40) != nullptr;
             changes = acutBuildList(70, integer(l, 70) & ~1, 0);
             changes->rbnext = lwVertices(piece, widths);
-            replaced = {5, 330, 100, 70, 90, 10, 40, 41, 42, 91};
+            replaced = {70, 90, 10, 40, 41, 42, 91};
         }
         if (i == 0) {
             if (int s = modify(e.name, changes); s != RTNORM) return s;
             continue;
         }
-        RbPtr copy = copyFor(l, replaced);
+        RbPtr copy = copyForMaking(l, replaced);
         insertAfterType(copy.get(), changes);
         if (int s = make(std::move(copy)); s != RTNORM) return s;
     }

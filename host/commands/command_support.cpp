@@ -1,5 +1,6 @@
 #include "host/commands/command_support.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cwchar>
 #include <cwctype>
@@ -229,6 +230,22 @@ RbPtr entityList(const Name& e, bool withXdata) {
     if (!withXdata) return RbPtr(acdbEntGet(n));
     RbPtr all(acutBuildList(RTSTR, L"*", 0));
     return RbPtr(acdbEntGetX(n, all.get()));
+}
+
+RbPtr copyForMaking(const resbuf* list, const std::vector<int>& alsoDropped) {
+    resbuf* head = nullptr;
+    resbuf** tail = &head;
+    bool xdata = false;
+    for (const resbuf* rb = list; rb; rb = rb->rbnext) {
+        const int c = rb->restype;
+        xdata |= c == -3;
+        const bool dropped = c == -1 || c == 5 || c == 100 || c == 102 || c == 330 || c == 360 ||
+                             std::find(alsoDropped.begin(), alsoDropped.end(), c) != alsoDropped.end();
+        if (!xdata && dropped) continue;
+        *tail = copyNode(rb);
+        tail = &(*tail)->rbnext;
+    }
+    return RbPtr(head);
 }
 
 const resbuf* findGroup(const resbuf* list, int code, int occurrence) {

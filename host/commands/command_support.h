@@ -59,6 +59,10 @@ double toRadians(double degrees);
 int makeWithCurrentProperties(resbuf* list);
 // The entity list of an entity, owned.
 RbPtr entityList(const Name& e, bool withXdata = false);
+// A copy of an entity list for acdbEntMake of a new entity: without the name, handle, owner,
+// subclass markers, reactors and extension dictionary of the original, nor the groups of the
+// codes in ALSO dropped (those the caller gives anew); extended data kept whole.
+RbPtr copyForMaking(const resbuf* list, const std::vector<int>& alsoDropped = {});
 const resbuf* findGroup(const resbuf* list, int code, int occurrence = 0);
 
 }  // namespace host::cmd

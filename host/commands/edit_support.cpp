@@ -18,22 +18,6 @@ std::wstring typeOf(const resbuf* list) {
     return g && g->resval.rstring ? g->resval.rstring : L"";
 }
 
-// A list for acdbEntMake: without the name, handle, owner, subclass markers and extension
-// dictionary of the original; extended data kept.
-RbPtr copyList(const resbuf* list) {
-    resbuf* head = nullptr;
-    resbuf** tail = &head;
-    bool xdata = false;
-    for (const resbuf* rb = list; rb; rb = rb->rbnext) {
-        xdata |= rb->restype == -3;
-        int c = rb->restype;
-        if (c == -1 || (!xdata && (c == 5 || c == 330 || c == 100 || c == 360 || c == 102))) continue;
-        *tail = copyNode(rb);
-        tail = &(*tail)->rbnext;
-    }
-    return RbPtr(head);
-}
-
 bool hasParts(const EditedObject& o) {
     if (o.type == L"POLYLINE") return true;
     const resbuf* follow = o.type == L"INSERT" ? findGroup(o.lists[0].get(), 66) : nullptr;
@@ -84,7 +68,7 @@ int writeBack(const EditedObject& o) {
 
 int writeCopy(const EditedObject& o, Name& made) {
     for (const auto& l : o.lists) {
-        RbPtr copy = copyList(l.get());
+        RbPtr copy = copyForMaking(l.get());
         if (int s = acdbEntMake(copy.get()); s != RTNORM) return s;
     }
     ads_name last;
