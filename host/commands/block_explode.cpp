@@ -52,7 +52,8 @@ RbPtr propertiesOf(const resbuf* polyline) {
     return RbPtr(head);
 }
 
-int makeWith(resbuf* shape, const resbuf* properties) {
+// SHAPE with the polyline's PROPERTIES appended.
+RbPtr withProperties(resbuf* shape, const resbuf* properties) {
     RbPtr list(shape);
     resbuf* tail = list.get();
     while (tail->rbnext) tail = tail->rbnext;
@@ -60,7 +61,7 @@ int makeWith(resbuf* shape, const resbuf* properties) {
         tail->rbnext = copyNode(rb);
         tail = tail->rbnext;
     }
-    return acdbEntMake(list.get());
+    return list;
 }
 
 // A point of the polyline's plane in world coordinates.
@@ -75,19 +76,20 @@ void toWorld(const double* normal, const double p[3], double out[3]) {
     acedTrans(p, &from, &to, 0, out);
 }
 
-int makeSegment(const PathVertex& a, const PathVertex& b, const double* normal, const resbuf* properties) {
+// The LINE or ARC of the segment from A to B.
+RbPtr segmentList(const PathVertex& a, const PathVertex& b, const double* normal, const resbuf* properties) {
     Arc2 arc;
     if (std::fabs(a.bulge) > 1e-12 && bulgeArc(a.p, b.p, a.bulge, arc)) {
         double centre[3] = {arc.centre[0], arc.centre[1], a.p[2]};
         resbuf* shape =
             normal ? acutBuildList(RTDXF0, L"ARC", 10, centre, 40, arc.radius, 50, arc.start, 51, arc.end, 210, normal, 0)
                    : acutBuildList(RTDXF0, L"ARC", 10, centre, 40, arc.radius, 50, arc.start, 51, arc.end, 0);
-        return makeWith(shape, properties);
+        return withProperties(shape, properties);
     }
     double from[3], to[3];
     toWorld(normal, a.p, from);
     toWorld(normal, b.p, to);
-    return makeWith(acutBuildList(RTDXF0, L"LINE", 10, from, 11, to, 0), properties);
+    return withProperties(acutBuildList(RTDXF0, L"LINE", 10, from, 11, to, 0), properties);
 }
 
 }  // namespace
@@ -136,8 +138,10 @@ bool explodeReference(const Name& insert) {
         }
         first = end;
     }
-    for (const auto& m : made)
-        if (acdbEntMake(m.get()) != RTNORM) return false;
+    if (makeAllOrNone(made) != RTNORM) {
+        say(L"\nCannot explode block " + block.name + L": one of its entities cannot be made here.");
+        return false;
+    }
     ads_name e = {insert[0], insert[1]};
     return acdbEntDel(e) == RTNORM;
 }
@@ -157,11 +161,16 @@ bool explodePolyline(const Name& polyline) {
                                : nullptr;
     RbPtr properties = propertiesOf(list.get());
     size_t n = path.vertices.size();
+    std::vector<RbPtr> segments;
     for (size_t i = 0; i < path.segments(); ++i) {
         const PathVertex& a = path.vertices[i];
         const PathVertex& b = path.vertices[(i + 1) % n];
         if (a.p[0] == b.p[0] && a.p[1] == b.p[1] && a.p[2] == b.p[2]) continue;
-        if (makeSegment(a, b, normal, properties.get()) != RTNORM) return false;
+        segments.push_back(segmentList(a, b, normal, properties.get()));
+    }
+    if (makeAllOrNone(segments) != RTNORM) {
+        say(L"\nCannot explode this polyline: one of its segments cannot be made.");
+        return false;
     }
     ads_name e = {polyline[0], polyline[1]};
     return acdbEntDel(e) == RTNORM;

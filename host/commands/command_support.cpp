@@ -248,6 +248,37 @@ RbPtr copyForMaking(const resbuf* list, const std::vector<int>& alsoDropped) {
     return RbPtr(head);
 }
 
+namespace {
+
+// Deletes the entities that follow AFTER (all of the drawing's when it is null).
+void deleteEntitiesAfter(const ads_name after) {
+    std::vector<Name> made;
+    ads_name next;
+    for (int s = acdbEntNext(after, next); s == RTNORM;) {
+        made.push_back({next[0], next[1]});
+        ads_name current = {next[0], next[1]};
+        s = acdbEntNext(current, next);
+    }
+    for (const Name& n : made) {
+        ads_name name = {n[0], n[1]};
+        acdbEntDel(name);  // a part goes with its head: deleting it again does nothing
+    }
+}
+
+}  // namespace
+
+int makeAllOrNone(const std::vector<RbPtr>& lists) {
+    ads_name last;
+    const bool hadEntities = acdbEntLast(last) == RTNORM;
+    for (const RbPtr& list : lists) {
+        const int status = acdbEntMake(list.get());
+        if (status == RTNORM) continue;
+        deleteEntitiesAfter(hadEntities ? last : nullptr);
+        return status;
+    }
+    return RTNORM;
+}
+
 const resbuf* findGroup(const resbuf* list, int code, int occurrence) {
     for (; list; list = list->rbnext) {
         if (list->restype == -3) return nullptr;

@@ -63,6 +63,9 @@ RbPtr entityList(const Name& e, bool withXdata = false);
 // subclass markers, reactors and extension dictionary of the original, nor the groups of the
 // codes in ALSO dropped (those the caller gives anew); extended data kept whole.
 RbPtr copyForMaking(const resbuf* list, const std::vector<int>& alsoDropped = {});
+// Makes the entities of the lists in order, all or none: when one cannot be made, those made
+// before it are deleted again and its acdbEntMake status is answered.
+int makeAllOrNone(const std::vector<RbPtr>& lists);
 const resbuf* findGroup(const resbuf* list, int code, int occurrence = 0);
 
 }  // namespace host::cmd

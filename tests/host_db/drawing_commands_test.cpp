@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "host/commands/arc_geometry.h"
+#include "host/commands/command_support.h"
 #include "tests/host_db/db_fixture.h"
 
 namespace dbtest {
@@ -381,6 +382,21 @@ TEST_F(DrawingCommands, MirroredReferenceExplodesIntoTheMirrorImage) {
     EXPECT_NEAR(real(defs[0].get(), 40), 2.5, 1e-12);
     ASSERT_NE(find(defs[0].get(), 71), nullptr);
     EXPECT_EQ(find(defs[0].get(), 71)->resval.rint & 2, 2);
+}
+
+TEST_F(DrawingCommands, EntitiesAreMadeAllOrNone) {
+    const double a[3] = {0, 0, 0}, b[3] = {1, 0, 0};
+    make(acutBuildList(RTDXF0, L"CIRCLE", 10, a, 40, 1.0, 0));
+    std::vector<RbPtr> lists;
+    lists.emplace_back(acutBuildList(RTDXF0, L"LINE", 10, a, 11, b, 0));
+    lists.emplace_back(acutBuildList(RTDXF0, L"LINE", 10, b, 11, a, 0));
+    lists.emplace_back(acutBuildList(RTDXF0, L"ARC", 10, a, 0));  // no radius: cannot be made
+    EXPECT_NE(host::cmd::makeAllOrNone(lists), RTNORM);
+    EXPECT_EQ(all(L"LINE").size(), 0u) << "the lines made first are taken back";
+    EXPECT_EQ(all(L"CIRCLE").size(), 1u) << "what was there stays";
+    lists.pop_back();
+    EXPECT_EQ(host::cmd::makeAllOrNone(lists), RTNORM);
+    EXPECT_EQ(all(L"LINE").size(), 2u);
 }
 
 TEST_F(DrawingCommands, PurgeKeepsWhatIsReferencedAlsoInsideBlocks) {

@@ -237,6 +237,20 @@ class DrawingCommands(unittest.TestCase):
             self.assertTrue(a.isclose(b, abs_tol=1e-9), (a, b))
         self.assertAlmostEqual(polyline.get_points("b")[0][0], -0.5, msg="mirrored: the bulge turns the other way")
 
+    def test_a_reference_that_cannot_be_exploded_whole_is_left_as_it_was(self):
+        # Another program wrote a block that refers to a block the drawing lacks: its line
+        # could be made, the reference inside it cannot, so nothing of it is.
+        doc = ezdxf.new("R2000")
+        block = doc.blocks.new("OUTER")
+        block.add_line((0, 0), (1, 0))
+        block.add_blockref("GHOST", (0, 0))
+        doc.modelspace().add_blockref("OUTER", (5, 5))
+        proc = run('(vl-catch-all-apply (function command) (list "EXPLODE" (ssget "X") ""))',
+                   drawing=self.source(doc), save=self.out)
+        self.assertIn("Cannot explode block OUTER", proc.stdout)
+        msp = ezdxf.readfile(self.out).modelspace()
+        self.assertEqual([e.dxftype() for e in msp], ["INSERT"])
+
     def test_insert_of_a_missing_block_fails_the_script(self):
         source = self.source(self.tag_drawing())
         proc = run('(command "INSERT" "NOSUCH" (list 0 0) 1 "" 0)', drawing=source, expect_ok=False)
