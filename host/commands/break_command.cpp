@@ -88,23 +88,30 @@ int makePolyline(const Entity& e, const Path& piece) {
     return make(RbPtr(acutBuildList(RTDXF0, L"SEQEND", 0)));
 }
 
+// The new pieces are made before the object is changed or deleted, and taken back when any
+// step fails: the drawing is broken whole or left as it was.
 int applyPieces(const Entity& e, const std::vector<Path>& pieces) {
     ads_name name = {e.name[0], e.name[1]};
     const resbuf* l = e.list.get();
     if (pieces.empty()) return acdbEntDel(name);
-    if (e.type == L"POLYLINE") {
-        acdbEntDel(name);
-        for (const auto& piece : pieces)
-            if (int s = makePolyline(e, piece); s != RTNORM) return s;
+    MadeUntilKept made;
+    if (e.type == L"POLYLINE" || e.type == L"CIRCLE") {
+        for (const auto& piece : pieces) {
+            if (e.type == L"POLYLINE") {
+                if (int s = makePolyline(e, piece); s != RTNORM) return s;
+                continue;
+            }
+            RbPtr arc = copyForMaking(l);
+            setType(arc.get(), L"ARC");
+            insertAfterType(arc.get(), arcAngles(findGroup(l, 10)->resval.rpoint, piece));
+            if (int s = make(std::move(arc)); s != RTNORM) return s;
+        }
+        if (int s = acdbEntDel(name); s != RTNORM) return s;
+        made.keep();
         return RTNORM;
     }
-    if (e.type == L"CIRCLE") {
-        RbPtr arc = copyForMaking(l);
-        setType(arc.get(), L"ARC");
-        insertAfterType(arc.get(), arcAngles(findGroup(l, 10)->resval.rpoint, pieces.front()));
-        if (int s = make(std::move(arc)); s != RTNORM) return s;
-        return acdbEntDel(name);
-    }
+    // The first piece is the object itself, changed last.
+    resbuf* firstChanges = nullptr;
     for (size_t i = 0; i < pieces.size(); ++i) {
         const Path& piece = pieces[i];
         resbuf* changes = nullptr;
@@ -122,13 +129,18 @@ int applyPieces(const Entity& e, const std::vector<Path>& pieces) {
             replaced = {70, 90, 10, 40, 41, 42, 91};
         }
         if (i == 0) {
-            if (int s = modify(e.name, changes); s != RTNORM) return s;
+            firstChanges = changes;
             continue;
         }
         RbPtr copy = copyForMaking(l, replaced);
         insertAfterType(copy.get(), changes);
-        if (int s = make(std::move(copy)); s != RTNORM) return s;
+        if (int s = make(std::move(copy)); s != RTNORM) {
+            acutRelRb(firstChanges);
+            return s;
+        }
     }
+    if (int s = modify(e.name, firstChanges); s != RTNORM) return s;
+    made.keep();
     return RTNORM;
 }
 
@@ -162,7 +174,9 @@ int breakAt(const Name& n, double first[3], double second[3]) {
         say(e.type == L"CIRCLE" ? L"\nArc cannot be full 360 degrees." : L"\nCannot break a closed object at one point.");
         return RTERROR;
     }
-    return applyPieces(e, pieces);
+    const int status = applyPieces(e, pieces);
+    if (status != RTNORM) say(L"\nCannot break this object: its pieces cannot be made; it is left as it was.");
+    return status;
 }
 
 bool askPoint(CommandInput& in, const wchar_t* promptText, double p[3]) {

@@ -251,7 +251,7 @@ RbPtr copyForMaking(const resbuf* list, const std::vector<int>& alsoDropped) {
 namespace {
 
 // Deletes the entities that follow AFTER (all of the drawing's when it is null).
-void deleteEntitiesAfter(const ads_name after) {
+void deleteEntitiesAfter(const long* after) {
     std::vector<Name> made;
     ads_name next;
     for (int s = acdbEntNext(after, next); s == RTNORM;) {
@@ -267,15 +267,21 @@ void deleteEntitiesAfter(const ads_name after) {
 
 }  // namespace
 
-int makeAllOrNone(const std::vector<RbPtr>& lists) {
+MadeUntilKept::MadeUntilKept() {
     ads_name last;
-    const bool hadEntities = acdbEntLast(last) == RTNORM;
-    for (const RbPtr& list : lists) {
-        const int status = acdbEntMake(list.get());
-        if (status == RTNORM) continue;
-        deleteEntitiesAfter(hadEntities ? last : nullptr);
-        return status;
-    }
+    hadEntities_ = acdbEntLast(last) == RTNORM;
+    if (hadEntities_) last_ = {last[0], last[1]};
+}
+
+MadeUntilKept::~MadeUntilKept() {
+    if (!kept_) deleteEntitiesAfter(hadEntities_ ? last_.data() : nullptr);
+}
+
+int makeAllOrNone(const std::vector<RbPtr>& lists) {
+    MadeUntilKept made;
+    for (const RbPtr& list : lists)
+        if (const int status = acdbEntMake(list.get()); status != RTNORM) return status;
+    made.keep();
     return RTNORM;
 }
 

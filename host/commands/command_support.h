@@ -63,6 +63,20 @@ RbPtr entityList(const Name& e, bool withXdata = false);
 // subclass markers, reactors and extension dictionary of the original, nor the groups of the
 // codes in ALSO dropped (those the caller gives anew); extended data kept whole.
 RbPtr copyForMaking(const resbuf* list, const std::vector<int>& alsoDropped = {});
+// The entities made while it lives are deleted again when it goes, unless keep() was called:
+// a command that makes several entities and changes others leaves all or nothing.
+class MadeUntilKept {
+public:
+    MadeUntilKept();
+    ~MadeUntilKept();
+    MadeUntilKept(const MadeUntilKept&) = delete;
+    MadeUntilKept& operator=(const MadeUntilKept&) = delete;
+    void keep() { kept_ = true; }
+
+private:
+    Name last_{};
+    bool hadEntities_ = false, kept_ = false;
+};
 // Makes the entities of the lists in order, all or none: when one cannot be made, those made
 // before it are deleted again and its acdbEntMake status is answered.
 int makeAllOrNone(const std::vector<RbPtr>& lists);

@@ -1,7 +1,8 @@
 """CIRCLE, ARC, PLINE, INSERT, EXPLODE and PURGE driven from the console as a script drives
 them, on drawings made by ezdxf, and the saved result read back by ezdxf: its audit, the
 entities' types and the values ezdxf's own geometry gives for the same input (circles
-through points, tangents of bulge arcs, block reference transforms)."""
+through points, tangents of bulge arcs, block reference transforms); and commands that
+make several entities (EXPLODE, BREAK) leaving the drawing as it was when one cannot be made."""
 
 import math
 import os
@@ -250,6 +251,19 @@ class DrawingCommands(unittest.TestCase):
         self.assertIn("Cannot explode block OUTER", proc.stdout)
         msp = ezdxf.readfile(self.out).modelspace()
         self.assertEqual([e.dxftype() for e in msp], ["INSERT"])
+
+    def test_a_break_whose_piece_cannot_be_made_leaves_the_line_whole(self):
+        # The line's linetype is not in the drawing (another program wrote it so): the line
+        # stands, but a new piece with that linetype cannot be made.
+        doc = ezdxf.new("R2000")
+        doc.modelspace().add_line((0, 0), (10, 0), dxfattribs={"linetype": "NOSUCH"})
+        proc = run('(vl-catch-all-apply (function command)'
+                   ' (list "BREAK" (ssname (ssget "X") 0) "F" (list 3 0) (list 5 0)))',
+                   drawing=self.source(doc), save=self.out)
+        self.assertIn("Cannot break this object", proc.stdout)
+        lines = ezdxf.readfile(self.out).modelspace().query("LINE")
+        self.assertEqual(len(lines), 1)
+        self.assertTrue(lines[0].dxf.end.isclose((10, 0, 0)), "not shortened")
 
     def test_insert_of_a_missing_block_fails_the_script(self):
         source = self.source(self.tag_drawing())
