@@ -16,6 +16,7 @@
 #include "coil/cooler_report.h"
 #include "coil/model_lookup.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 #include "frame/paths.h"
 #include "frame/result_file.h"
 #include "frame/tile_numbers.h"
@@ -153,7 +154,7 @@ void fillInputs(ads_hdlg dialog, Session& session) {
 }  // namespace
 
 int coolerCheck() {
-    DialogSession dialogs(kCoolerDialogFile, {Channel::Alert, kCannotLoadDialogFile});
+    DialogSession dialogs(kCoolerDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return RTERROR;
     if (!dialogs.create(kMainDialog, {Channel::Alert, kCannotShowDialog})) return RTERROR;
     Session session;

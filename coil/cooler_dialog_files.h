@@ -9,7 +9,6 @@ namespace vrn2 {
 inline constexpr wchar_t kCoolerDialogFile[] = L"dwglib/sccal.dcl";
 inline constexpr wchar_t kCoolerDatabase[] = L"datlib/sc.dat";
 inline constexpr wchar_t kCoolerDatabaseTemp[] = L"datlib/@sctemp.acc";
-inline constexpr wchar_t kCannotLoadDialogFile[] = L"不能装载对话框.";
 inline constexpr wchar_t kCannotShowDialog[] = L"不能显示对话框.";
 
 // Alerts of the lookup and the contact coefficient as message boxes.

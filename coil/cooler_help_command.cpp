@@ -2,11 +2,12 @@
 #include "coil/coil_handlers.h"
 #include "coil/cooler_dialog_files.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 
 namespace vrn2 {
 
 int coolerHelp() {
-    DialogSession dialogs(kCoolerDialogFile, {Channel::Alert, kCannotLoadDialogFile});
+    DialogSession dialogs(kCoolerDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return RTERROR;
     if (!dialogs.create(L"zat_help", {Channel::Alert, kCannotShowDialog})) return RTERROR;
     dialogs.run();

@@ -17,6 +17,7 @@
 #include "coil/database_text.h"
 #include "coil/model_lookup.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 #include "frame/paths.h"
 #include "frame/tile_numbers.h"
 
@@ -173,7 +174,7 @@ void connectActions(const DialogSession& dialogs, Editor& editor) {
 }  // namespace
 
 int coolerDatabaseEditor() {
-    DialogSession dialogs(kCoolerDialogFile, {Channel::Alert, kCannotLoadDialogFile});
+    DialogSession dialogs(kCoolerDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return RTERROR;
     if (!dialogs.create(kMainDialog, {Channel::Alert, kCannotShowDialog})) return RTERROR;
     Editor editor;

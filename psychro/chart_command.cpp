@@ -7,6 +7,7 @@
 #include "acutads.h"
 #include "adsdlg.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 #include "frame/tile_numbers.h"
 #include "psychro/chart_entities.h"
 #include "psychro/chart_state.h"
@@ -70,7 +71,7 @@ void onAccept(ads_callback_packet* packet) {
 
 void runHelp(int dclId) {
     DialogSession help(dclId);
-    if (help.create(L"i_dhlpdlg", {Channel::Alert, kMsgChartCannotCreate})) help.run();
+    if (help.create(L"i_dhlpdlg", {Channel::Alert, kMsgCannotCreateDialog})) help.run();
 }
 
 void onHelp(ads_callback_packet* packet) { runHelp(static_cast<ChartDialog*>(packet->client_data)->dclId); }
@@ -100,11 +101,11 @@ bool drawChart(const ChartRequest& request) {
 }  // namespace
 
 int drawIdChart() {
-    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgChartCannotLoad});
+    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return RTERROR;
     ChartDialog chart;
     chart.dclId = dialogs.dclId();
-    if (!dialogs.create(L"crti_dtdlg", {Channel::Alert, kMsgChartCannotCreate})) return RTERROR;
+    if (!dialogs.create(L"crti_dtdlg", {Channel::Alert, kMsgCannotCreateDialog})) return RTERROR;
     fillDialog(dialogs.dialog());
     dialogs.action(L"accept", onAccept, &chart);
     dialogs.action(L"help", onHelp, &chart);
@@ -121,7 +122,7 @@ int drawIdChart() {
 }
 
 int idChartHelp() {
-    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgChartCannotLoad});
+    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return RTERROR;
     runHelp(dialogs.dclId());
     return RTNORM;

@@ -7,6 +7,7 @@
 #include "acutads.h"
 #include "adsdlg.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 #include "psychro/chart_entities.h"
 #include "psychro/chart_marks.h"
 #include "psychro/chart_state.h"
@@ -98,8 +99,8 @@ int viewStatePointTable() {
         acutPrintf(kMsgNoTable);
         return RTNORM;
     }
-    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgChartCannotLoad});
-    if (!dialogs.create(L"vi_dtbldlg", {Channel::Alert, kMsgChartCannotCreate})) return RTERROR;
+    DialogSession dialogs(kChartDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
+    if (!dialogs.create(L"vi_dtbldlg", {Channel::Alert, kMsgCannotCreateDialog})) return RTERROR;
     ads_hdlg dialog = dialogs.dialog();
     ads_start_list(dialog, L"ptlist", LIST_NEW, 0);
     for (const std::wstring& line : stateTableLines(drawn.table)) ads_add_list(line.c_str());

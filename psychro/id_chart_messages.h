@@ -4,8 +4,6 @@
 namespace vrn2 {
 
 inline constexpr wchar_t kChartDialogFile[] = L"dwglib\\crti_dt.dcl";
-inline constexpr wchar_t kMsgChartCannotLoad[] = L"不能装载对话框.";
-inline constexpr wchar_t kMsgChartCannotCreate[] = L"不能初始化对话框.";
 
 inline constexpr wchar_t kMsgChartPressureText[] = L"输入大气压值.";
 inline constexpr wchar_t kMsgChartPressureRange[] = L"大气压值在50-200kPa之间.";

@@ -8,6 +8,7 @@
 #include "acutads.h"
 #include "adsdlg.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 #include "frame/tile_numbers.h"
 #include "psychro/chart_state.h"
 #include "psychro/id_chart.h"
@@ -22,9 +23,6 @@ namespace {
 constexpr wchar_t kDialogFile[] = L"dwglib/constp.dcl";
 constexpr wchar_t kMainDialog[] = L"constpdlg";
 constexpr wchar_t kHelpDialog[] = L"constphlp";
-constexpr wchar_t kCannotLoad[] = L"不能装载对话框.";
-constexpr wchar_t kCannotInitialise[] = L"不能初始化对话框.";
-constexpr wchar_t kCannotShowHelp[] = L"不能显示这对话框.";
 constexpr wchar_t kMsgNoState[] = L"还没有求得的状态点,先用状态点计算(CI_DT)求出.";
 constexpr wchar_t kMsgBadPick[] = L"\n所选点不是合理的湿空气状态.";
 constexpr wchar_t kMsgNotDrawn[] = L"\n过程没有画在焓湿图上.";
@@ -187,7 +185,7 @@ void onSelectPoint(ads_callback_packet* packet) {
 void onHelp(ads_callback_packet* packet) {
     const auto* session = static_cast<const Session*>(packet->client_data);
     DialogSession help(session->dclId);
-    if (help.create(kHelpDialog, {Channel::Alert, kCannotShowHelp})) help.run();
+    if (help.create(kHelpDialog, {Channel::Alert, kMsgCannotShowDialog})) help.run();
 }
 
 void fillDialog(const DialogSession& dialogs, Session& session) {
@@ -222,7 +220,7 @@ void pickStartState() {
 }  // namespace
 
 int airProcess() {
-    DialogSession dialogs(kDialogFile, {Channel::Alert, kCannotLoad});
+    DialogSession dialogs(kDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return RTERROR;
     Session session;
     session.dclId = dialogs.dclId();
@@ -231,7 +229,7 @@ int airProcess() {
     if (!remembered().kept && rememberedPressure(kPa)) showNumberText(remembered().texts[L"B"], kPa, kRememberedPressureDecimals);
     int status = DLGCANCEL;
     do {
-        if (!dialogs.create(kMainDialog, {Channel::Alert, kCannotInitialise})) return RTERROR;
+        if (!dialogs.create(kMainDialog, {Channel::Alert, kMsgCannotCreateDialog})) return RTERROR;
         fillDialog(dialogs, session);
         status = dialogs.run();
         if (status == kStatusPick) pickStartState();

@@ -3,6 +3,7 @@
 #include "acutads.h"
 #include "adsdlg.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 #include "frame/tile_numbers.h"
 #include "psychro/calculation_journal.h"
 #include "psychro/process_chart.h"
@@ -12,7 +13,6 @@ namespace vrn2 {
 namespace {
 
 constexpr wchar_t kResultDialog[] = L"constpres";
-constexpr wchar_t kCannotInitialise[] = L"不能初始化对话框.";
 constexpr wchar_t kSaved[] = L"\n结果已存在文件qres.txt中.";
 // The dialog closes with this status when the process is to be drawn on the chart.
 constexpr int kStatusDraw = 4;
@@ -54,7 +54,7 @@ void fillTiles(ads_hdlg dialog, const ProcessInput& in, const ProcessResult& r) 
 
 bool showProcessResult(int dclId, const ProcessInput& in, const ProcessResult& r, const ProcessLabels& labels) {
     DialogSession dialogs(dclId);
-    if (!dialogs.create(kResultDialog, {Channel::Alert, kCannotInitialise})) return false;
+    if (!dialogs.create(kResultDialog, {Channel::Alert, kMsgCannotCreateDialog})) return false;
     fillTiles(dialogs.dialog(), in, r);
     Shown shown{&in, &r, &labels};
     dialogs.action(L"saveres", onSave, &shown);

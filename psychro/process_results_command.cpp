@@ -7,6 +7,7 @@
 #include "adsdlg.h"
 #include "frame/dialog_session.h"
 #include "frame/file_handle.h"
+#include "frame/messages.h"
 #include "frame/tile_numbers.h"
 #include "psychro/calculation_journal.h"
 #include "psychro/calculation_report_file.h"
@@ -21,9 +22,6 @@ namespace {
 constexpr wchar_t kDialogFile[] = L"dwglib/qres.dcl";
 constexpr ResultFileCommand kProcessResults{kProcessResultFile, kDialogFile, L"introduce4",
                                             L"\n不能显示V_RESDLG对话框."};
-constexpr wchar_t kMsgCannotLoad[] = L"不能装载对话框.";
-constexpr wchar_t kMsgCannotCreate[] = L"不能初始化对话框.";
-constexpr wchar_t kMsgCannotHelp[] = L"不能显示这对话框.";
 constexpr int kNameChars = 120;
 // The choice dialog closes with these to view the file or to write the report.
 constexpr int kStatusView = 4;
@@ -34,7 +32,7 @@ void onReport(ads_callback_packet* packet) { ads_done_dialog(packet->dialog, kSt
 
 void onHelp(ads_callback_packet* packet) {
     DialogSession help(*static_cast<const int*>(packet->client_data));
-    if (help.create(L"q_reshelp", {Channel::Alert, kMsgCannotHelp})) help.run();
+    if (help.create(L"q_reshelp", {Channel::Alert, kMsgCannotShowDialog})) help.run();
 }
 
 void fillChoice(ads_hdlg dialog) {
@@ -48,9 +46,9 @@ void fillChoice(ads_hdlg dialog) {
 
 // Asks for the choice; DLGCANCEL when the user closes the dialog.
 int askChoice() {
-    DialogSession dialogs(kDialogFile, {Channel::Alert, kMsgCannotLoad});
+    DialogSession dialogs(kDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return DLGCANCEL;
-    if (!dialogs.create(L"q_resdlg", {Channel::Alert, kMsgCannotCreate})) return DLGCANCEL;
+    if (!dialogs.create(L"q_resdlg", {Channel::Alert, kMsgCannotCreateDialog})) return DLGCANCEL;
     fillChoice(dialogs.dialog());
     int dclId = dialogs.dclId();
     dialogs.action(L"view", onView);
@@ -89,9 +87,9 @@ void onAcceptName(ads_callback_packet* packet) {
 
 // The name of the report, asked in "q_report"; empty when the user cancels.
 std::wstring askReportName() {
-    DialogSession dialogs(kDialogFile, {Channel::Alert, kMsgCannotLoad});
+    DialogSession dialogs(kDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return L"";
-    if (!dialogs.create(L"q_report", {Channel::Alert, kMsgCannotCreate})) return L"";
+    if (!dialogs.create(L"q_report", {Channel::Alert, kMsgCannotCreateDialog})) return L"";
     ads_set_tile(dialogs.dialog(), L"name", kDefaultReportName);
     ReportName name;
     dialogs.action(L"accept", onAcceptName, &name);

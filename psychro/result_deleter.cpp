@@ -4,6 +4,7 @@
 #include "acedads.h"
 #include "adsdlg.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 #include "psychro/result_files.h"
 #include "wchar_io.h"
 
@@ -11,7 +12,6 @@ namespace vrn2 {
 namespace {
 
 constexpr wchar_t kConfirmDialog[] = L"delwarming";
-constexpr wchar_t kCannotLoad[] = L"不能装载对话框.";
 constexpr wchar_t kCannotShow[] = L"不能显示对话框.";
 
 void deleteConfirmed(ads_callback_packet* packet) {
@@ -23,7 +23,7 @@ void deleteConfirmed(ads_callback_packet* packet) {
 }  // namespace
 
 int deleteResultFile(const ResultFileCommand& command) {
-    DialogSession dialogs(command.dialogFile, {Channel::Alert, kCannotLoad});
+    DialogSession dialogs(command.dialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return RTERROR;
     if (!dialogs.create(kConfirmDialog, {Channel::Alert, kCannotShow})) return RTERROR;
     dialogs.action(L"ok", deleteConfirmed, const_cast<wchar_t*>(command.resultFile));

@@ -7,6 +7,7 @@
 #include "acutads.h"
 #include "adsdlg.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 #include "psychro/calculation_journal.h"
 #include "psychro/process_chart.h"
 #include "psychro/process_file.h"
@@ -22,9 +23,6 @@ constexpr wchar_t kDialogFile[] = L"dwglib/retair.dcl";
 constexpr wchar_t kMainDialog[] = L"retairdlg";
 constexpr wchar_t kResultDialog[] = L"retairres";
 constexpr wchar_t kHelpDialog[] = L"retairhelp";
-constexpr wchar_t kCannotLoad[] = L"不能装载对话框.";
-constexpr wchar_t kCannotInitialise[] = L"不能初始化对话框.";
-constexpr wchar_t kCannotShowHelp[] = L"不能显示这对话框.";
 constexpr wchar_t kSaved[] = L"\n结果已存在文件qres.txt中.";
 constexpr wchar_t kNoChart[] = L"\n先生成焓湿图.";
 // Both dialogs close with this status to draw the system on the chart.
@@ -58,7 +56,7 @@ void fillResultList(ads_hdlg dialog, const Session& session) {
 
 int showResult(Session& session) {
     DialogSession dialogs(session.dclId);
-    if (!dialogs.create(kResultDialog, {Channel::Alert, kCannotInitialise})) return DLGCANCEL;
+    if (!dialogs.create(kResultDialog, {Channel::Alert, kMsgCannotCreateDialog})) return DLGCANCEL;
     ads_hdlg dialog = dialogs.dialog();
     ads_set_tile(dialog, L"title", returnAirTitle(session.input).c_str());
     fillResultList(dialog, session);
@@ -91,7 +89,7 @@ void onCalculate(ads_callback_packet* packet) {
 void onHelp(ads_callback_packet* packet) {
     const auto* session = static_cast<const Session*>(packet->client_data);
     DialogSession help(session->dclId);
-    if (help.create(kHelpDialog, {Channel::Alert, kCannotShowHelp})) help.run();
+    if (help.create(kHelpDialog, {Channel::Alert, kMsgCannotShowDialog})) help.run();
 }
 
 void onCancel(ads_callback_packet* packet) {
@@ -100,7 +98,7 @@ void onCancel(ads_callback_packet* packet) {
 }
 
 int runMainDialog(DialogSession& dialogs, Session& session) {
-    if (!dialogs.create(kMainDialog, {Channel::Alert, kCannotInitialise})) return -1;
+    if (!dialogs.create(kMainDialog, {Channel::Alert, kMsgCannotCreateDialog})) return -1;
     ads_hdlg dialog = dialogs.dialog();
     fillReturnAirTiles(dialog, rememberedReturnAirTexts());
     bindReturnAirChoices(dialog);
@@ -120,7 +118,7 @@ void drawOnChart(const ReturnAirResult& result) {
 }  // namespace
 
 int returnAirSystem() {
-    DialogSession dialogs(kDialogFile, {Channel::Alert, kCannotLoad});
+    DialogSession dialogs(kDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return RTERROR;
     Session session;
     session.dclId = dialogs.dclId();

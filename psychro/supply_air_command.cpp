@@ -5,9 +5,10 @@
 
 #include "acedads.h"
 #include "adsdlg.h"
-#include "psychro/psychro_handlers.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 #include "frame/tile_numbers.h"
+#include "psychro/psychro_handlers.h"
 #include "psychro/supply_air_checks.h"
 #include "psychro/supply_air_result_dialog.h"
 
@@ -17,9 +18,6 @@ namespace {
 constexpr wchar_t kDialogFile[] = L"dwglib/gscal.dcl";
 constexpr wchar_t kMainDialog[] = L"gs_caldlg";
 constexpr wchar_t kHelpDialog[] = L"intro_scproofcal";
-constexpr wchar_t kCannotLoad[] = L"不能装载对话框.";
-constexpr wchar_t kCannotInitialise[] = L"不能初始化对话框.";
-constexpr wchar_t kCannotShowHelp[] = L"不能显示这对话框.";
 constexpr wchar_t kNoResult[] = L"无法求得结果,检查输入参数是否合理?";
 constexpr wchar_t kTotalLoadLabel[] = L"  总热冷负荷(kW):  ";
 constexpr wchar_t kSensibleLoadLabel[] = L"  显热冷负荷(kW):  ";
@@ -88,7 +86,7 @@ void onCalculate(ads_callback_packet* packet) {
 void onHelp(ads_callback_packet* packet) {
     const auto* session = static_cast<const Session*>(packet->client_data);
     DialogSession help(session->dclId);
-    if (help.create(kHelpDialog, {Channel::Alert, kCannotShowHelp})) help.run();
+    if (help.create(kHelpDialog, {Channel::Alert, kMsgCannotShowDialog})) help.run();
 }
 
 void fillInputs(ads_hdlg dialog) {
@@ -109,9 +107,9 @@ void connectActions(const DialogSession& dialogs, Session& session) {
 }  // namespace
 
 int supplyAirCalculation() {
-    DialogSession dialogs(kDialogFile, {Channel::Alert, kCannotLoad});
+    DialogSession dialogs(kDialogFile, {Channel::Alert, kMsgCannotLoadDialog});
     if (!dialogs.loaded()) return RTERROR;
-    if (!dialogs.create(kMainDialog, {Channel::Alert, kCannotInitialise})) return RTERROR;
+    if (!dialogs.create(kMainDialog, {Channel::Alert, kMsgCannotCreateDialog})) return RTERROR;
     Session session{dialogs.dclId()};
     fillInputs(dialogs.dialog());
     connectActions(dialogs, session);

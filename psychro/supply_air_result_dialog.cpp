@@ -4,6 +4,7 @@
 #include "acutads.h"
 #include "adsdlg.h"
 #include "frame/dialog_session.h"
+#include "frame/messages.h"
 #include "frame/tile_numbers.h"
 #include "psychro/journal_entries.h"
 #include "psychro/supply_air_report.h"
@@ -12,7 +13,6 @@ namespace vrn2 {
 namespace {
 
 constexpr wchar_t kResultDialog[] = L"gscalres";
-constexpr wchar_t kCannotInitialise[] = L"不能初始化对话框.";
 constexpr wchar_t kCannotCreateFile[] = L"不能创建存放结果的文件.";
 constexpr wchar_t kSaved[] = L"\n结果已存在文件gscal.txt中.";
 constexpr wchar_t kOnlyFlowAndTemp[] = L"只能求出送风量与送风温度";
@@ -67,7 +67,7 @@ void fillResultTiles(ads_hdlg dialog, const SupplyAirResult& result) {
 
 void showSupplyAirResult(int dclId, const SupplyAirInput& in, const SupplyAirResult& result) {
     DialogSession dialogs(dclId);
-    if (!dialogs.create(kResultDialog, {Channel::Alert, kCannotInitialise})) return;
+    if (!dialogs.create(kResultDialog, {Channel::Alert, kMsgCannotCreateDialog})) return;
     fillResultTiles(dialogs.dialog(), result);
     ShownResult shown{&in, &result};
     dialogs.action(L"saveres", saveShownResult, &shown);
